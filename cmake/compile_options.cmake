@@ -1,0 +1,12 @@
+# The warnings and sanitizers that all of our own code is built with.
+add_library(marvcon_compile_options INTERFACE)
+target_compile_options(marvcon_compile_options INTERFACE -Wall -Wextra -Wpedantic -Wconversion)
+if(MARVCON_WARNINGS_AS_ERRORS)
+    target_compile_options(marvcon_compile_options INTERFACE -Werror)
+endif()
+if(MARVCON_SANITIZE)
+    target_compile_options(
+        marvcon_compile_options INTERFACE -fsanitize=${MARVCON_SANITIZE} -fno-sanitize-recover=all
+                                          -fno-omit-frame-pointer)
+    target_link_options(marvcon_compile_options INTERFACE -fsanitize=${MARVCON_SANITIZE})
+endif()

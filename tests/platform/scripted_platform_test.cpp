@@ -1,0 +1,213 @@
+#include "toolkit/platform/scripted/scripted_platform.h"
+
+#include <gtest/gtest.h>
+
+#include <cerrno>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "toolkit/platform/floating_point_guard.h"
+#include "toolkit/platform/utf8.h"
+
+namespace {
+using Words = std::vector<std::wstring>;
+
+int twice(int number) {
+    return 2 * number;
+}
+
+// Opens, writes one byte and closes.
+void append(PX_Platform& machine, const wchar_t* name, char byte) {
+    std::FILE* stream = nullptr;
+    ASSERT_EQ(machine._wfopen_s(&stream, name, L"a+"), 0);
+    std::fputc(byte, stream);
+    std::fclose(stream);
+}
+}  // namespace
+
+TEST(Utf8, EncodesEveryLengthAndReplacesWhatIsNoCharacter) {
+    const struct {
+        const char* proves;
+        std::u32string text;
+        std::string bytes;
+    } rows[] = {
+        {"bounds of one byte", {0x00, 0x7F}, std::string("\0\x7F", 2)},
+        {"bounds of two", {0x80, 0x7FF}, "\xC2\x80\xDF\xBF"},
+        {"bounds of three", {0x800, 0xFFFF}, "\xE0\xA0\x80\xEF\xBF\xBF"},
+        {"bounds of four", {0x10000, 0x10FFFF}, "\xF0\x90\x80\x80\xF4\x8F\xBF\xBF"},
+        {"around the surrogates", {0xD7FF, 0xE000}, "\xED\x9F\xBF\xEE\x80\x80"},
+        {"surrogates", {0xD800, 0xDFFF}, "\xEF\xBF\xBD\xEF\xBF\xBD"},
+        {"above all planes, also negative", {0x110000, 0xFFFFFFFF}, "\xEF\xBF\xBD\xEF\xBF\xBD"},
+    };
+    for (const auto& row : rows)
+        EXPECT_EQ(px_encode_utf8(std::u32string_view(row.text)), row.bytes) << row.proves;
+
+    const std::u16string units = {0xDC00, 0xD83D, 0xDE00, 0xD83D};
+    EXPECT_EQ(px_encode_utf8(std::u16string_view(units)), "\xEF\xBF\xBD\xF0\x9F\x98\x80\xEF\xBF\xBD");
+}
+
+TEST(ScriptedPlatform, ConvertsTextAllOrNothing) {
+    PX_Scripted_Platform machine;
+    const struct {
+        const char* proves;
+        int length;
+        int bytes_size;
+        int result;
+        std::string bytes;
+    } rows[] = {
+        {"only counts, with the terminator", -1, 0, 4, "...."},
+        {"takes the terminator along", -1, 4, 4, std::string("a\xC3\xA4\0", 4)},
+        {"no room for the terminator", -1, 3, 0, "...."},
+        {"no room for half a character", 2, 2, 0, "...."},
+        {"a length leaves the terminator out", 2, 4, 3, "a\xC3\xA4."},
+        {"nothing to convert", 0, 4, 0, "...."},
+    };
+    for (const auto& row : rows) {
+        std::string bytes = "....";
+        BOOL used_default = 7;
+        EXPECT_EQ(machine.WideCharToMultiByte(CP_ACP, 0, L"a\u00E4", row.length, bytes.data(), row.bytes_size,
+                                              nullptr, &used_default),
+                  row.result)
+            << row.proves;
+        EXPECT_EQ(bytes, row.bytes) << row.proves;
+        EXPECT_EQ(used_default, 0) << row.proves;
+    }
+}
+
+TEST(ScriptedPlatform, CountsLoadsAndCatchesStaleHandles) {
+    PX_Scripted_Platform machine;
+    machine.install_module(L"en/texts.dll", {{7, L"seven"}});
+    machine.export_procedure(L"en/texts.dll", "twice", &twice);
+
+    EXPECT_EQ(machine.LoadLibraryW(L"texts.dll"), nullptr) << "the folder belongs to the name";
+    const HMODULE module = machine.LoadLibraryExW(L"en/texts.dll", nullptr, 0);
+    ASSERT_EQ(machine.LoadLibraryW(L"en/texts.dll"), module);
+    EXPECT_EQ(machine.loaded_modules(), Words(2, L"en/texts.dll"));
+    const auto found = reinterpret_cast<void (*)()>(machine.GetProcAddress(module, "twice"));
+    ASSERT_TRUE(found);
+    EXPECT_EQ(reinterpret_cast<int (*)(int)>(found)(21), 42);
+    EXPECT_EQ(machine.GetProcAddress(module, "thrice"), nullptr);
+
+    wchar_t text[5] = L"....";
+    EXPECT_EQ(machine.LoadStringW(module, 7, text, 5), 4);
+    EXPECT_STREQ(text, L"seve");
+    EXPECT_EQ(machine.LoadStringW(module, 8, text, 5), 0);
+    EXPECT_EQ(machine.LoadStringW(module, 7, text, 0), 0);
+    EXPECT_EQ(machine.LoadStringW(nullptr, 7, text, 5), 0);
+
+    EXPECT_TRUE(machine.FreeLibrary(module));
+    EXPECT_EQ(machine.LoadStringW(module, 7, text, 5), 4) << "one load is left";
+    EXPECT_TRUE(machine.FreeLibrary(module));
+    EXPECT_TRUE(machine.loaded_modules().empty());
+    EXPECT_EQ(machine.count_misuses(), 0);
+
+    EXPECT_NE(machine.LoadLibraryW(L"en/texts.dll"), module);
+    EXPECT_EQ(machine.LoadStringW(module, 7, text, 5), 0);
+    EXPECT_EQ(machine.GetProcAddress(&machine, "twice"), nullptr);
+    EXPECT_EQ(machine.GetModuleFileNameW(module, text, 5), 0U);
+    EXPECT_FALSE(machine.FreeLibrary(module));
+    EXPECT_EQ(machine.count_misuses(), 4);
+    EXPECT_EQ(machine.calls_of("GetProcAddress").back().arguments, (Words{L"unknown", L"twice"}));
+    EXPECT_EQ(machine.calls().back().arguments, Words{L"en/texts.dll"});
+}
+
+TEST(ScriptedPlatform, GivesThePathOfTheProgram) {
+    PX_Scripted_Platform machine;
+    machine.place_program_at(L"/bin/h");
+    const struct {
+        DWORD size;
+        DWORD result;
+        std::wstring path;
+    } rows[] = {{7, 6, L"/bin/h"}, {6, 6, L"/bin/"}, {1, 1, L""}, {0, 0, L"...."}};
+    for (const auto& row : rows) {
+        wchar_t path[8] = L"....";
+        EXPECT_EQ(machine.GetModuleFileNameW(nullptr, path, row.size), row.result) << row.size;
+        EXPECT_EQ(path, row.path) << row.size;
+    }
+    machine.hide_program_path();
+    wchar_t path[8];
+    EXPECT_EQ(machine.GetModuleFileNameW(nullptr, path, 8), 0U);
+}
+
+TEST(ScriptedPlatform, AnswersBoxesInOrderAndThenAsNobody) {
+    PX_Scripted_Platform machine;
+    const HWND window = machine.activate_window();
+    machine.answer_next_box(IDRETRY);
+    machine.answer_next_box(IDIGNORE);
+    machine.fail("MessageBoxExW", 1, 1);
+    EXPECT_EQ(machine.MessageBoxExW(machine.GetActiveWindow(), L"text", L"caption", 50, 2048), IDRETRY);
+    EXPECT_EQ(machine.MessageBoxExW(nullptr, L"", L"", 50, 0), 0);
+    EXPECT_EQ(machine.MessageBoxExW(nullptr, nullptr, nullptr, 50, 0), IDIGNORE) << "not eaten by the fault";
+    EXPECT_EQ(machine.MessageBoxExW(nullptr, L"", L"", 50, 0), IDABORT);
+    EXPECT_EQ(machine.MessageBoxExW(nullptr, L"", L"", 49, 0), IDCANCEL);
+    EXPECT_EQ(machine.MessageBoxExW(nullptr, L"", L"", 16, 0), IDOK);
+
+    ASSERT_EQ(machine.boxes().size(), 5U);
+    EXPECT_EQ(machine.boxes()[0].owner, window);
+    EXPECT_EQ(machine.calls_of("MessageBoxExW")[0].arguments,
+              (Words{L"window", L"text", L"caption", L"50", L"2048"}));
+}
+
+TEST(ScriptedPlatform, FailsByOperationAndCount) {
+    PX_Scripted_Platform machine;
+    machine.install_module(L"m");
+    machine.fail("LoadLibraryW", 2, 1);
+    machine.fail("LoadLibraryW", 1, 1);
+    machine.fail("FreeLibrary", PX_Scripted_Platform::always);
+    machine.fail("LoadLibary");
+    std::string loads;
+    HMODULE module = nullptr;
+    for (int call = 0; call < 6; ++call) {
+        const HMODULE loaded = machine.LoadLibraryW(L"m");
+        loads += loaded ? '+' : '-';
+        module = loaded ? loaded : module;
+    }
+    EXPECT_EQ(loads, "+--+-+");
+    EXPECT_FALSE(machine.FreeLibrary(module));
+    EXPECT_FALSE(machine.FreeLibrary(module));
+    EXPECT_EQ(machine.loaded_modules().size(), 3U) << "a fault has no effect";
+    EXPECT_EQ(machine.unspent_faults(), std::vector<std::string>{"LoadLibary"});
+    EXPECT_EQ(machine.count_of("LoadLibraryW"), 6) << "those that failed are on record too";
+    EXPECT_TRUE(machine.calls()[1].is_fault);
+    EXPECT_FALSE(machine.calls()[3].is_fault);
+}
+
+TEST(ScriptedPlatform, KeepsLogsAcrossReopening) {
+    PX_Scripted_Platform machine;
+    append(machine, L"C:\\one.log", '1');
+    append(machine, L"C:\\two.log", '2');
+    std::FILE* stream = nullptr;
+    ASSERT_EQ(machine._wfopen_s(&stream, L"C:\\one.log", L"a+"), 0);
+    std::fputs("\xC3\xA4\n", stream);
+    EXPECT_EQ(machine.log_of(L"C:\\one.log"), "1\xC3\xA4\n") << "also while it is open";
+    std::fclose(stream);
+    EXPECT_EQ(machine.log_of(L"C:\\two.log"), "2");
+    EXPECT_EQ(machine.log_of(L"one.log"), "");
+
+    EXPECT_EQ(machine._wfopen_s(&stream, L"absent.log", L"r"), ENOENT);
+    EXPECT_EQ(stream, nullptr);
+    machine.fail("_wfopen_s");
+    EXPECT_EQ(machine._wfopen_s(&stream, L"C:\\one.log", L"a+"), EACCES);
+    EXPECT_EQ(stream, nullptr);
+}
+
+TEST(ScriptedPlatform, ShowsWhatTheGuardRestores) {
+    PX_Scripted_Platform machine;
+    PX_Platform* const former = &PX_Get_Platform();
+    machine.write_control_word(0x0108021F);
+    {
+        const PX_Use_Platform use(machine);
+        try {
+            const PX_Floating_Point_Guard guard;
+            machine.write_control_word(0xFFFFFFFF);
+            EXPECT_EQ(machine.control_word(), 0x0308031FU);
+            throw std::runtime_error("printer code");
+        } catch (const std::runtime_error&) {
+        }
+    }
+    EXPECT_EQ(machine.control_word(), 0x0108021FU);
+    EXPECT_EQ(&PX_Get_Platform(), former);
+    ASSERT_EQ(machine.count_of("_controlfp_s"), 2);
+    EXPECT_EQ(machine.calls()[0].arguments[1], L"0") << "the guard only reads at first";
+}

@@ -1,0 +1,144 @@
+#pragma once
+
+#include <new>
+#include <utility>
+
+#include "toolkit/core/smart_pointer.h"
+#include "toolkit/host/object.h"
+
+// A singly linked list of values: each node holds a counted copy of its own.
+template <class T>
+class PX_EXPORT PX_Atomic_Object_List : public PX_Object {
+protected:
+    class PX_EXPORT Node : public PX_Object {
+    public:
+        explicit Node(const T& value) : m_element(new T(value)) {}
+
+        PX_Smart_Pointer<T> m_element;
+        Node* m_next = nullptr;
+    };
+
+public:
+    // A walk over the list from its head.
+    class PX_EXPORT iterator : public PX_Object {
+    public:
+        bool has_next() const { return m_current != nullptr; }
+        // The current value, and on to the next one; null at the end.
+        PX_Smart_Pointer<T> next() {
+            if (!m_current)
+                return m_list->m_null_element;
+            const Node* const passed = m_current;
+            m_current = passed->m_next;
+            return passed->m_element;
+        }
+
+    private:
+        friend class PX_Atomic_Object_List;
+        explicit iterator(const PX_Atomic_Object_List* list) : m_current(list->m_head), m_list(list) {}
+
+        Node* m_current;
+        const PX_Atomic_Object_List* m_list;
+    };
+
+    PX_Atomic_Object_List() = default;
+    PX_Atomic_Object_List(const PX_Atomic_Object_List&) = delete;
+    PX_Atomic_Object_List& operator=(const PX_Atomic_Object_List&) = delete;
+    ~PX_Atomic_Object_List() override { delete_nodes(); }
+
+    // Adds a copy at the tail. There is no tail pointer: the list is walked.
+    virtual void append(const T& value) {
+        Node** link = &m_head;
+        while (*link)
+            link = &(*link)->m_next;
+        *link = new_node(value);
+    }
+    virtual void clear() { delete_nodes(); }
+    virtual bool is_empty() const { return !m_head; }
+    // A new list of the same class, and empty: assign is the operation that copies. Null when there is no
+    // memory.
+    virtual PX_Atomic_Object_List* clone() const { return new PX_Atomic_Object_List; }
+
+    int size() const { return m_count; }
+    // The caller deletes the iterator, which must not outlive the list. Null when there is no memory.
+    iterator* get_iterator() const { return new iterator(this); }
+
+protected:
+    Node* new_node(const T& value) {
+        Node* const added = new Node(value);
+        if (!added)
+            throw std::bad_alloc();
+        ++m_count;
+        return added;
+    }
+
+    int m_count = 0;
+    PX_Smart_Pointer<T> m_null_element;
+    Node* m_head = nullptr;
+
+private:
+    void delete_nodes() {
+        while (m_head) {
+            Node* const gone = m_head;
+            m_head = gone->m_next;
+            delete gone;
+        }
+        m_count = 0;
+    }
+};
+
+template <class T>
+class PX_EXPORT PX_Searchable_Atomic_Object_List : public PX_Atomic_Object_List<T> {
+public:
+    PX_Searchable_Atomic_Object_List* clone() const override { return new PX_Searchable_Atomic_Object_List; }
+
+    // Adds a copy at the head.
+    virtual void prepend(const T& value) {
+        auto* const added = this->new_node(value);
+        added->m_next = this->m_head;
+        this->m_head = added;
+    }
+    // The first element that is equal; null when there is none.
+    virtual PX_Smart_Pointer<T> find(const T& value) const {
+        for (const auto* node = this->m_head; node; node = node->m_next) {
+            if (*node->m_element == value)
+                return node->m_element;
+        }
+        return this->m_null_element;
+    }
+};
+
+// A list that can be put in order. The element type says what the order is, by a function
+// `bool px_sorts_before(const T& inserted, const T& element, bool ascending)` beside it: a value goes in
+// front of the first element at which it is true.
+template <class T>
+class PX_EXPORT PX_Sortable_Atomic_Object_List : public PX_Searchable_Atomic_Object_List<T> {
+    using Node = typename PX_Searchable_Atomic_Object_List<T>::Node;
+
+public:
+    PX_Sortable_Atomic_Object_List* clone() const override { return new PX_Sortable_Atomic_Object_List; }
+
+    virtual void sort(bool ascending) {
+        Node* unsorted = std::exchange(this->m_head, nullptr);
+        while (unsorted) {
+            Node* const inserted = unsorted;
+            unsorted = inserted->m_next;
+            Node** link = &this->m_head;
+            while (*link && !px_sorts_before(*inserted->m_element, *(*link)->m_element, ascending))
+                link = &(*link)->m_next;
+            inserted->m_next = *link;
+            *link = inserted;
+        }
+    }
+    // Clears this list and appends a copy of each element of the other.
+    virtual PX_Sortable_Atomic_Object_List& assign(const PX_Sortable_Atomic_Object_List& other) {
+        if (this == &other)
+            return *this;
+        this->clear();
+        Node** link = &this->m_head;
+        for (const Node* node = other.m_head; node; node = node->m_next) {
+            *link = this->new_node(*node->m_element);
+            link = &(*link)->m_next;
+        }
+        return *this;
+    }
+};

@@ -1,0 +1,147 @@
+#pragma once
+
+#include <cwchar>
+#include <new>
+
+#include "toolkit/core/smart_pointer.h"
+#include "toolkit/host/object.h"
+
+// A singly linked list of shared objects. A lookup that finds nothing gives a null pointer and throws
+// nothing.
+template <class T>
+class PX_EXPORT PX_Object_List : public PX_Object {
+    class PX_EXPORT Node : public PX_Object {
+    public:
+        explicit Node(PX_Smart_Pointer<T> element) : m_element(std::move(element)) {}
+
+        PX_Smart_Pointer<T> m_element;
+        Node* m_next = nullptr;
+    };
+
+public:
+    // A walk over the list from its head. The element that was just returned may be removed: keep it in a
+    // counted pointer meanwhile.
+    class PX_EXPORT iterator : public PX_Object {
+    public:
+        bool has_next() const { return m_current != nullptr; }
+        // The current element, and on to the next one; null at the end.
+        PX_Smart_Pointer<T> next() {
+            if (!m_current)
+                return m_list->m_null_element;
+            const Node* const passed = m_current;
+            m_current = passed->m_next;
+            return passed->m_element;
+        }
+
+    private:
+        friend class PX_Object_List;
+        explicit iterator(const PX_Object_List* list) : m_current(list->m_head), m_list(list) {}
+
+        Node* m_current;
+        const PX_Object_List* m_list;
+    };
+
+    // What a range-for reads: each element in place, without counting it.
+    class const_iterator {
+    public:
+        explicit const_iterator(const Node* node) : m_node(node) {}
+        const PX_Smart_Pointer<T>& operator*() const { return m_node->m_element; }
+        const_iterator& operator++() {
+            m_node = m_node->m_next;
+            return *this;
+        }
+        bool operator==(const const_iterator&) const = default;
+
+    private:
+        const Node* m_node;
+    };
+
+    PX_Object_List() = default;
+    PX_Object_List(const PX_Object_List&) = delete;
+    PX_Object_List& operator=(const PX_Object_List&) = delete;
+    ~PX_Object_List() override { clear(); }
+
+    int size() const { return m_count; }
+    bool is_empty() const { return !m_head; }
+
+    // Adds at the tail. The element is shared: whoever wants a copy clones first.
+    void append(PX_Smart_Pointer<T> element) {
+        Node* const added = new_node(std::move(element));
+        (m_tail ? m_tail->m_next : m_head) = added;
+        m_tail = added;
+    }
+
+    // Adds at the head.
+    void prepend(PX_Smart_Pointer<T> element) {
+        Node* const added = new_node(std::move(element));
+        added->m_next = m_head;
+        m_head = added;
+        if (!m_tail)
+            m_tail = added;
+    }
+
+    // Removes the first node that holds this very object; false when none does.
+    bool remove(const T* element) {
+        Node* before = nullptr;
+        for (Node* node = m_head; node; before = node, node = node->m_next) {
+            if (node->m_element != element)
+                continue;
+            (before ? before->m_next : m_head) = node->m_next;
+            if (node == m_tail)
+                m_tail = before;
+            --m_count;
+            delete node;
+            return true;
+        }
+        return false;
+    }
+
+    void clear() {
+        while (m_head) {
+            Node* const gone = m_head;
+            m_head = gone->m_next;
+            delete gone;
+        }
+        m_tail = nullptr;
+        m_count = 0;
+    }
+
+    // The caller deletes the iterator, which must not outlive the list. Null when there is no memory.
+    iterator* get_iterator() const { return new iterator(this); }
+
+    const_iterator begin() const { return const_iterator(m_head); }
+    const_iterator end() const { return const_iterator(nullptr); }
+
+protected:
+    const PX_Smart_Pointer<T>& null_element() const { return m_null_element; }
+
+private:
+    Node* new_node(PX_Smart_Pointer<T> element) {
+        Node* const added = new Node(std::move(element));
+        if (!added)
+            throw std::bad_alloc();
+        ++m_count;
+        return added;
+    }
+
+    int m_count = 0;
+    PX_Smart_Pointer<T> m_null_element;
+    Node* m_head = nullptr;
+    Node* m_tail = nullptr;
+};
+
+// A list of objects that are found by their canonical name.
+template <class T>
+class PX_EXPORT PX_Named_Object_List : public PX_Object_List<T> {
+public:
+    // The first element of that very name, case sensitive; null when there is none. A withdrawn entry is
+    // found like any other. A null name is the empty one.
+    PX_Smart_Pointer<T> find(const wchar_t* canonical_name) const {
+        const wchar_t* const wanted = canonical_name ? canonical_name : L"";
+        for (const auto& element : *this) {
+            if (element && std::wcscmp(element->get_canonical_name(), wanted) == 0)
+                return element;
+        }
+        return this->null_element();
+    }
+};

@@ -1,0 +1,81 @@
+#pragma once
+
+#include <cstddef>
+#include <utility>
+
+#include "toolkit/core/sp_pool.h"
+#include "toolkit/host/object.h"
+
+// A counted pointer. The count is kept by the address of the T, so an object is always held through the same
+// class: its abstract one, which is the first of its bases. The last counted pointer to an object deletes it;
+// a plain pointer protects nothing.
+//
+// A new object has no count. Put it into a lasting counted pointer first: a temporary one made from it
+// deletes it when it goes.
+template <class T>
+class PX_EXPORT PX_Smart_Pointer {
+public:
+    PX_Smart_Pointer() = default;
+    PX_Smart_Pointer(std::nullptr_t) {}
+    PX_Smart_Pointer(T* object) : m_object(object) { add(); }
+    PX_Smart_Pointer(const PX_Smart_Pointer& other) : m_object(other.m_object) { add(); }
+    PX_Smart_Pointer(PX_Smart_Pointer&& other) noexcept : m_object(std::exchange(other.m_object, nullptr)) {}
+    ~PX_Smart_Pointer() { release(); }
+
+    // Every assignment releases the old object before it takes the new one. Assigning the very object that
+    // this pointer alone holds deletes it, and leaves the pointer null.
+    PX_Smart_Pointer& operator=(T* object) {
+        T* const held = m_object;
+        if (release() && object == held)
+            return *this;
+        m_object = object;
+        add();
+        return *this;
+    }
+    PX_Smart_Pointer& operator=(std::nullptr_t) {
+        release();
+        return *this;
+    }
+    PX_Smart_Pointer& operator=(const PX_Smart_Pointer& other) { return *this = other.m_object; }
+    PX_Smart_Pointer& operator=(PX_Smart_Pointer&& other) {
+        T* const taken = std::exchange(other.m_object, nullptr);
+        release();
+        m_object = taken;
+        return *this;
+    }
+
+    T* get() const { return m_object; }
+    T& operator*() const { return *m_object; }
+    T* operator->() const { return m_object; }
+    explicit operator bool() const { return m_object != nullptr; }
+
+    friend bool operator==(const PX_Smart_Pointer& a, const PX_Smart_Pointer& b) {
+        return a.m_object == b.m_object;
+    }
+    friend bool operator==(const PX_Smart_Pointer& a, const T* b) { return a.m_object == b; }
+    friend bool operator==(const PX_Smart_Pointer& a, std::nullptr_t) { return !a.m_object; }
+
+private:
+    void* address() const { return const_cast<void*>(static_cast<const volatile void*>(m_object)); }
+
+    void add() {
+        if (m_object)
+            SPMP()->add_reference(address());
+    }
+
+    // True when the object went with its last reference. The pointer is null before the object's destructor
+    // runs.
+    bool release() {
+        if (!m_object)
+            return false;
+        void* const held = address();
+        T* const object = std::exchange(m_object, nullptr);
+        if (SPMP()->release_reference(held) != 0)
+            return false;
+        static_assert(sizeof(T) > 0, "include the contract of what a counted pointer deletes");
+        delete object;
+        return true;
+    }
+
+    T* m_object = nullptr;
+};

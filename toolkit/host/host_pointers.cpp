@@ -1,0 +1,6 @@
+#include "toolkit/host/palette.h"
+#include "toolkit/host/progress.h"
+
+PX_Progress::~PX_Progress() = default;
+
+PX_Palette::~PX_Palette() = default;

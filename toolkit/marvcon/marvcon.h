@@ -1,0 +1,22 @@
+#pragma once
+
+// The whole public face of the toolkit.
+#include "toolkit/core/atomic_list.h"
+#include "toolkit/core/error_handler.h"
+#include "toolkit/core/error_resources.h"
+#include "toolkit/core/exception.h"
+#include "toolkit/core/flags.h"
+#include "toolkit/core/frame.h"
+#include "toolkit/core/module.h"
+#include "toolkit/core/object_list.h"
+#include "toolkit/core/smart_pointer.h"
+#include "toolkit/core/std_error_handler.h"
+#include "toolkit/host/geometry.h"
+#include "toolkit/host/palette.h"
+#include "toolkit/host/progress.h"
+#include "toolkit/host/string.h"
+#include "toolkit/marvcon/std_init_term_cfg.h"
+#include "toolkit/marvcon/std_io_cfg/line_settings.h"
+#include "toolkit/marvcon/std_meta_cfg.h"
+#include "toolkit/marvcon/std_plotter_def.h"
+#include "toolkit/marvcon/std_plval.h"

@@ -1,0 +1,302 @@
+#include "toolkit/marvcon/std_plotter_def/pending.h"
+
+#include "toolkit/marvcon/std_plotter_def/class_factory.h"
+
+// The creators whose class is still to come.
+
+PX_Long_Custom_Data* PX_Std_Plotter_Class_Factory::MK_Create_Long_Custom_Data() const {
+    return nullptr;
+}
+
+PX_Double_Custom_Data* PX_Std_Plotter_Class_Factory::MK_Create_Double_Custom_Data() const {
+    return nullptr;
+}
+
+PX_Boolean_Custom_Data* PX_Std_Plotter_Class_Factory::MK_Create_Boolean_Custom_Data() const {
+    return nullptr;
+}
+
+PX_String_Custom_Data* PX_Std_Plotter_Class_Factory::MK_Create_String_Custom_Data() const {
+    return nullptr;
+}
+
+PX_Raw_Custom_Data* PX_Std_Plotter_Class_Factory::MK_Create_Raw_Custom_Data() const {
+    return nullptr;
+}
+
+PX_Custom_Capability_Value* PX_Std_Plotter_Class_Factory::MK_Create_Custom_Capability_Value() const {
+    return nullptr;
+}
+
+PX_Object_List<PX_Custom_Capability_Value>*
+PX_Std_Plotter_Class_Factory::MK_Create_Custom_Capability_Value_List() const {
+    return nullptr;
+}
+
+PX_Custom_Capability* PX_Std_Plotter_Class_Factory::MK_Create_Custom_Capability() const {
+    return nullptr;
+}
+
+PX_Named_Object_List<PX_Custom_Capability>* PX_Std_Plotter_Class_Factory::MK_Create_Custom_Capability_List()
+    const {
+    return nullptr;
+}
+
+PX_Custom_Capabilities* PX_Std_Plotter_Class_Factory::MK_Create_Custom_Capabilities() const {
+    return nullptr;
+}
+
+PX_Custom_Config_Item* PX_Std_Plotter_Class_Factory::MK_Create_Custom_Config_Item() const {
+    return nullptr;
+}
+
+PX_Named_Object_List<PX_Custom_Config_Item>* PX_Std_Plotter_Class_Factory::MK_Create_Custom_Config_Item_List()
+    const {
+    return nullptr;
+}
+
+PX_Custom_Configurations* PX_Std_Plotter_Class_Factory::MK_Create_Custom_Configurations() const {
+    return nullptr;
+}
+
+PX_Custom_Validator* PX_Std_Plotter_Class_Factory::MK_Create_Custom_Validator(
+    PX_Plotter_Definition* /*plotter*/) const {
+    return nullptr;
+}
+
+PX_Baud_Rate* PX_Std_Plotter_Class_Factory::MK_Create_Baud_Rate() const {
+    return nullptr;
+}
+
+PX_Object_List<PX_Baud_Rate>* PX_Std_Plotter_Class_Factory::MK_Create_Baud_Rate_List() const {
+    return nullptr;
+}
+
+PX_Protocol* PX_Std_Plotter_Class_Factory::MK_Create_Protocol() const {
+    return nullptr;
+}
+
+PX_Named_Object_List<PX_Protocol>* PX_Std_Plotter_Class_Factory::MK_Create_Protocol_List() const {
+    return nullptr;
+}
+
+PX_IO_Method* PX_Std_Plotter_Class_Factory::MK_Create_IO_Method() const {
+    return nullptr;
+}
+
+PX_Object_List<PX_IO_Method>* PX_Std_Plotter_Class_Factory::MK_Create_IO_Method_List() const {
+    return nullptr;
+}
+
+PX_IO_Port* PX_Std_Plotter_Class_Factory::MK_Create_IO_Port() const {
+    return nullptr;
+}
+
+PX_Named_Object_List<PX_IO_Port>* PX_Std_Plotter_Class_Factory::MK_Create_IO_Port_List() const {
+    return nullptr;
+}
+
+PX_Plotter_IO_Configuration* PX_Std_Plotter_Class_Factory::MK_Create_Plotter_IO_Configuration() const {
+    return nullptr;
+}
+
+PX_Plotter_IO_Capabilities* PX_Std_Plotter_Class_Factory::MK_Create_Plotter_IO_Capabilities() const {
+    return nullptr;
+}
+
+PX_Plotter_IO_Validator* PX_Std_Plotter_Class_Factory::MK_Create_Plotter_IO_Validator(
+    PX_Plotter_Definition* /*plotter*/) const {
+    return nullptr;
+}
+
+PX_Plotter_IO* PX_Std_Plotter_Class_Factory::MK_Create_Plotter_IO(
+    PX_Smart_Pointer<PX_Error_Handler> /*handler*/) const {
+    return nullptr;
+}
+
+PX_Linetype_Capabilities* PX_Std_Plotter_Class_Factory::MK_Create_Linetype_Capabilities() const {
+    return nullptr;
+}
+
+PX_Media_Capabilities* PX_Std_Plotter_Class_Factory::MK_Create_Media_Capabilities() const {
+    return nullptr;
+}
+
+PX_Media_Configuration* PX_Std_Plotter_Class_Factory::MK_Create_Media_Configuration() const {
+    return nullptr;
+}
+
+PX_Media_Description* PX_Std_Plotter_Class_Factory::MK_Create_Media_Description() const {
+    return nullptr;
+}
+
+PX_Named_Object_List<PX_Media_Description>* PX_Std_Plotter_Class_Factory::MK_Create_Media_Description_List()
+    const {
+    return nullptr;
+}
+
+PX_Media_Destination* PX_Std_Plotter_Class_Factory::MK_Create_Media_Destination() const {
+    return nullptr;
+}
+
+PX_Media_Collating* PX_Std_Plotter_Class_Factory::MK_Create_Media_Collating() const {
+    return nullptr;
+}
+
+PX_Media_Stapling* PX_Std_Plotter_Class_Factory::MK_Create_Media_Stapling() const {
+    return nullptr;
+}
+
+PX_Media_Cutting* PX_Std_Plotter_Class_Factory::MK_Create_Media_Cutting() const {
+    return nullptr;
+}
+
+PX_Media_Folding* PX_Std_Plotter_Class_Factory::MK_Create_Media_Folding() const {
+    return nullptr;
+}
+
+PX_Media_Settings* PX_Std_Plotter_Class_Factory::MK_Create_Media_Settings() const {
+    return nullptr;
+}
+
+PX_Named_Object_List<PX_Media_Collating>* PX_Std_Plotter_Class_Factory::MK_Create_Media_Collating_List()
+    const {
+    return nullptr;
+}
+
+PX_Named_Object_List<PX_Media_Stapling>* PX_Std_Plotter_Class_Factory::MK_Create_Media_Stapling_List() const {
+    return nullptr;
+}
+
+PX_Named_Object_List<PX_Media_Cutting>* PX_Std_Plotter_Class_Factory::MK_Create_Media_Cutting_List() const {
+    return nullptr;
+}
+
+PX_Named_Object_List<PX_Media_Folding>* PX_Std_Plotter_Class_Factory::MK_Create_Media_Folding_List() const {
+    return nullptr;
+}
+
+PX_Named_Object_List<PX_Media_Destination>* PX_Std_Plotter_Class_Factory::MK_Create_Media_Destination_List()
+    const {
+    return nullptr;
+}
+
+PX_Media_Size* PX_Std_Plotter_Class_Factory::MK_Create_Media_Size() const {
+    return nullptr;
+}
+
+PX_Named_Object_List<PX_Media_Size>* PX_Std_Plotter_Class_Factory::MK_Create_Media_Size_List() const {
+    return nullptr;
+}
+
+PX_Media_Source* PX_Std_Plotter_Class_Factory::MK_Create_Media_Source() const {
+    return nullptr;
+}
+
+PX_Media_Source_Entry* PX_Std_Plotter_Class_Factory::MK_Create_Media_Source_Entry() const {
+    return nullptr;
+}
+
+PX_Named_Object_List<PX_Media_Source_Entry>* PX_Std_Plotter_Class_Factory::MK_Create_Media_Source_Entry_List()
+    const {
+    return nullptr;
+}
+
+PX_Named_Object_List<PX_Media_Source>* PX_Std_Plotter_Class_Factory::MK_Create_Media_Source_List() const {
+    return nullptr;
+}
+
+PX_Media_Validator* PX_Std_Plotter_Class_Factory::MK_Create_Media_Validator(
+    PX_Plotter_Definition* /*plotter*/) const {
+    return nullptr;
+}
+
+PX_Media_Type* PX_Std_Plotter_Class_Factory::MK_Create_Media_Type() const {
+    return nullptr;
+}
+
+PX_Named_Object_List<PX_Media_Type>* PX_Std_Plotter_Class_Factory::MK_Create_Media_Type_List() const {
+    return nullptr;
+}
+
+PX_PhysPen_Capabilities* PX_Std_Plotter_Class_Factory::MK_Create_Pen_Capabilities() const {
+    return nullptr;
+}
+
+PX_PhysPen_Configuration* PX_Std_Plotter_Class_Factory::MK_Create_Pen_Configuration() const {
+    return nullptr;
+}
+
+PX_Pen* PX_Std_Plotter_Class_Factory::MK_Create_Pen() const {
+    return nullptr;
+}
+
+PX_Named_Object_List<PX_Pen>* PX_Std_Plotter_Class_Factory::MK_Create_Pen_List() const {
+    return nullptr;
+}
+
+PX_PhysPen_Validator* PX_Std_Plotter_Class_Factory::MK_Create_Pen_Validator(
+    PX_Plotter_Definition* /*plotter*/) const {
+    return nullptr;
+}
+
+PX_Raster_Capabilities* PX_Std_Plotter_Class_Factory::MK_Create_Raster_Capabilities() const {
+    return nullptr;
+}
+
+PX_Mem_Area* PX_Std_Plotter_Class_Factory::MK_Create_Mem_Area() const {
+    return nullptr;
+}
+
+PX_Named_Object_List<PX_Mem_Area>* PX_Std_Plotter_Class_Factory::MK_Create_Mem_Area_List() const {
+    return nullptr;
+}
+
+PX_Dither_Matrix* PX_Std_Plotter_Class_Factory::MK_Create_Dither_Matrix() const {
+    return nullptr;
+}
+
+PX_Object_List<PX_Dither_Matrix>* PX_Std_Plotter_Class_Factory::MK_Create_Dither_Matrix_List() const {
+    return nullptr;
+}
+
+PX_Dithering_Method* PX_Std_Plotter_Class_Factory::MK_Create_Dithering_Method() const {
+    return nullptr;
+}
+
+PX_Named_Object_List<PX_Dithering_Method>* PX_Std_Plotter_Class_Factory::MK_Create_Dithering_List() const {
+    return nullptr;
+}
+
+PX_Resolution* PX_Std_Plotter_Class_Factory::MK_Create_Resolution() const {
+    return nullptr;
+}
+
+PX_Named_Object_List<PX_Resolution>* PX_Std_Plotter_Class_Factory::MK_Create_Resolution_List() const {
+    return nullptr;
+}
+
+PX_ResColorMem* PX_Std_Plotter_Class_Factory::MK_Create_ResColorMem() const {
+    return nullptr;
+}
+
+PX_Named_Object_List<PX_ResColorMem>* PX_Std_Plotter_Class_Factory::MK_Create_ResColorMem_List() const {
+    return nullptr;
+}
+
+PX_ResColorMem_Settings* PX_Std_Plotter_Class_Factory::MK_Create_ResColorMem_Settings() const {
+    return nullptr;
+}
+
+PX_ResColorMem_Capabilities* PX_Std_Plotter_Class_Factory::MK_Create_ResColorMem_Capabilities() const {
+    return nullptr;
+}
+
+PX_ResColorMem_Configuration* PX_Std_Plotter_Class_Factory::MK_Create_ResColorMem_Configuration() const {
+    return nullptr;
+}
+
+PX_ResColorMem_Validator* PX_Std_Plotter_Class_Factory::MK_Create_ResColorMem_Validator(
+    PX_Plotter_Definition* /*plotter*/) const {
+    return nullptr;
+}

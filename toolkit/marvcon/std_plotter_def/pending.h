@@ -1,0 +1,99 @@
+#pragma once
+
+#include "toolkit/core/caps_type.h"
+#include "toolkit/core/object_list.h"
+#include "toolkit/marvcon/std_plval/interface.h"
+
+// What the library does not hold yet, all in this file and pending.cpp. Of each domain that is to come stands
+// here only what the frame itself calls; the domain takes its lines away when it brings its own contracts,
+// its creators and its rows of the walk.
+
+// The domains whose validator may be missing from a definition.
+inline constexpr long px_pending_domains = PX_Domain_Mask::IO | PX_Domain_Mask::Media |
+                                           PX_Domain_Mask::Custom | PX_Domain_Mask::Res_Color_Mem |
+                                           PX_Domain_Mask::Phys_Pens;
+
+template <class Self>
+class PX_Pending_Capabilities {
+public:
+    virtual ~PX_Pending_Capabilities() = default;
+    virtual Self* clone() const = 0;
+};
+
+template <class Self>
+class PX_Pending_Configuration {
+public:
+    virtual ~PX_Pending_Configuration() = default;
+    virtual bool get_validated() const = 0;
+    virtual bool get_default() const = 0;
+    virtual Self* clone() const = 0;
+};
+
+class PX_Media_Size {
+public:
+    virtual ~PX_Media_Size() = default;
+    virtual const wchar_t* get_canonical_name() const = 0;
+    virtual PX_Caps_Type::Enum get_caps_type() const = 0;
+};
+class PX_Media_Description {
+public:
+    virtual ~PX_Media_Description() = default;
+    virtual const wchar_t* get_canonical_name() const = 0;
+    virtual PX_Caps_Type::Enum get_caps_type() const = 0;
+};
+
+class PX_Media_Capabilities : public PX_Pending_Capabilities<PX_Media_Capabilities> {
+public:
+    virtual PX_Smart_Pointer<PX_Named_Object_List<PX_Media_Size>> get_media_size_list() const = 0;
+    virtual PX_Smart_Pointer<PX_Named_Object_List<PX_Media_Description>> get_media_description_list()
+        const = 0;
+};
+class PX_Plotter_IO_Capabilities : public PX_Pending_Capabilities<PX_Plotter_IO_Capabilities> {};
+class PX_PhysPen_Capabilities : public PX_Pending_Capabilities<PX_PhysPen_Capabilities> {};
+class PX_Raster_Capabilities : public PX_Pending_Capabilities<PX_Raster_Capabilities> {};
+class PX_Linetype_Capabilities : public PX_Pending_Capabilities<PX_Linetype_Capabilities> {};
+class PX_ResColorMem_Capabilities : public PX_Pending_Capabilities<PX_ResColorMem_Capabilities> {};
+class PX_Custom_Capabilities : public PX_Pending_Capabilities<PX_Custom_Capabilities> {};
+
+class PX_Media_Configuration : public PX_Pending_Configuration<PX_Media_Configuration> {};
+class PX_Plotter_IO_Configuration : public PX_Pending_Configuration<PX_Plotter_IO_Configuration> {};
+class PX_ResColorMem_Configuration : public PX_Pending_Configuration<PX_ResColorMem_Configuration> {};
+class PX_PhysPen_Configuration : public PX_Pending_Configuration<PX_PhysPen_Configuration> {};
+class PX_Custom_Configurations : public PX_Pending_Configuration<PX_Custom_Configurations> {};
+
+class PX_Media_Validator {
+public:
+    virtual ~PX_Media_Validator() = default;
+    virtual void set_all_media_to_defaults() = 0;
+};
+class PX_Plotter_IO_Validator {
+public:
+    virtual ~PX_Plotter_IO_Validator() = default;
+    virtual void set_all_io_to_defaults() = 0;
+};
+class PX_PhysPen_Validator {
+public:
+    virtual ~PX_PhysPen_Validator() = default;
+    virtual void set_all_physpen_to_defaults() = 0;
+};
+class PX_ResColorMem_Validator {
+public:
+    virtual ~PX_ResColorMem_Validator() = default;
+    virtual void set_all_res_color_mem_to_defaults() = 0;
+    virtual void set_res_color_mem_to_default() = 0;
+    virtual void set_mem_area_to_default() = 0;
+    virtual void set_resolution_to_default() = 0;
+    virtual void set_HardSoftNo_Dithering_to_default() = 0;
+    virtual void set_installed_memory_to_default() = 0;
+    virtual void set_dithering_mode_to_default() = 0;
+    virtual void set_icm_method_to_default() = 0;
+    virtual void set_icm_intent_to_default() = 0;
+    virtual void set_dm_color_to_default() = 0;
+    virtual void set_color_vs_mono_to_default() = 0;
+};
+class PX_Custom_Validator {
+public:
+    virtual ~PX_Custom_Validator() = default;
+    virtual void validate_all_custom(PX_Validation_Strategy::Enum strategy) = 0;
+    virtual void set_all_custom_to_defaults() = 0;
+};

@@ -1,0 +1,277 @@
+#include "toolkit/marvcon/std_plval/validator.h"
+
+#include "toolkit/core/frame.h"
+#include "toolkit/marvcon/std_plotter_def/factory_interface.h"
+
+namespace {
+
+constexpr PX_Source source = PX_SOURCE(L"std_plval");
+constexpr const wchar_t* constructor = L"PX_Std_Plotter_Validator::PX_Std_Plotter_Validator";
+
+// The bit of a domain in a mask, if anything changed there.
+long domain_bit(long changes, PX_Domain_Mask::Enum domain) {
+    return changes ? long{domain} : 0L;
+}
+
+// Makes a domain validator into its member; a domain that is still to come may have none.
+template <class Validator>
+void make(PX_Smart_Pointer<Validator>& member, const wchar_t* member_name, PX_Domain_Mask::Enum domain,
+          PX_Plotter_Definition* plotter, const PX_Plotter_Class_Factory& factory,
+          Validator* (PX_Plotter_Class_Factory::*create)(PX_Plotter_Definition*) const) {
+    member = px_frame(constructor, [&] { return (factory.*create)(plotter); });
+    if (!member && !(px_pending_domains & domain))
+        throw MVNK_Memory_Exception(PX_Code::No_Memory, constructor, member_name, source.file_tag);
+}
+
+// Calls a domain validator's operation, where the domain is there.
+template <class Validator>
+void call(const PX_Smart_Pointer<Validator>& validator, void (Validator::*operation)()) {
+    if (validator)
+        ((*validator).*operation)();
+}
+
+template <class Entry>
+void remove_user_defined(const PX_Smart_Pointer<PX_Named_Object_List<Entry>>& list) {
+    if (!list)
+        return;
+    for (auto next = list->begin(); next != list->end();) {
+        const PX_Smart_Pointer<Entry> entry = *next;
+        ++next;
+        if (entry && entry->get_caps_type() == PX_Caps_Type::Caps_Type_User)
+            list->remove(entry.get());
+    }
+}
+
+}  // namespace
+
+PX_Plotter_Validator::~PX_Plotter_Validator() = default;
+
+PX_Std_Plotter_Validator::PX_Std_Plotter_Validator(PX_Plotter_Definition* plotter) {
+    if (!plotter)
+        throw MVNK_Error(PX_Code::Null_Argument, constructor, L"plotter", source.file_tag);
+    m_plotter = plotter;
+    const auto factory = plotter->get_class_factory();
+    if (!factory)
+        throw MVNK_Error(PX_Code::Null_Argument, constructor, L"class_factory", source.file_tag);
+    using Domain = PX_Domain_Mask;
+    using Factory = PX_Plotter_Class_Factory;
+    const auto make_one = [&](auto& member, const wchar_t* name, Domain::Enum domain, auto create) {
+        make(member, name, domain, plotter, *factory, create);
+    };
+    make_one(m_media_validator, L"m_media_validator", Domain::Media, &Factory::MK_Create_Media_Validator);
+    make_one(m_phys_pen_validator, L"m_phys_pen_validator", Domain::Phys_Pens,
+             &Factory::MK_Create_Pen_Validator);
+    make_one(m_init_term_validator, L"m_init_term_validator", Domain::Init_Term,
+             &Factory::MK_Create_InitTerm_Validator);
+    make_one(m_custom_validator, L"m_custom_validator", Domain::Custom, &Factory::MK_Create_Custom_Validator);
+    make_one(m_res_color_mem_validator, L"m_res_color_mem_validator", Domain::Res_Color_Mem,
+             &Factory::MK_Create_ResColorMem_Validator);
+    make_one(m_io_validator, L"m_io_validator", Domain::IO, &Factory::MK_Create_Plotter_IO_Validator);
+}
+
+PX_Std_Plotter_Validator::~PX_Std_Plotter_Validator() = default;
+
+long PX_Std_Plotter_Validator::get_config_changed() const {
+    return domain_bit(m_media_cfg_changes, PX_Domain_Mask::Media) |
+           domain_bit(m_io_cfg_changes, PX_Domain_Mask::IO) |
+           domain_bit(m_phys_pen_cfg_changes, PX_Domain_Mask::Phys_Pens) |
+           domain_bit(m_res_color_mem_cfg_changes, PX_Domain_Mask::Res_Color_Mem) |
+           domain_bit(m_init_term_cfg_changes, PX_Domain_Mask::Init_Term) |
+           domain_bit(m_custom_cfg_changes.size(), PX_Domain_Mask::Custom);
+}
+
+long PX_Std_Plotter_Validator::get_caps_changed() const {
+    return domain_bit(m_media_caps_changes, PX_Domain_Mask::Media) |
+           domain_bit(m_io_caps_changes, PX_Domain_Mask::IO) |
+           domain_bit(m_phys_pen_caps_changes, PX_Domain_Mask::Phys_Pens) |
+           domain_bit(m_res_color_mem_caps_changes, PX_Domain_Mask::Res_Color_Mem) |
+           domain_bit(m_init_term_caps_changes, PX_Domain_Mask::Init_Term) |
+           domain_bit(m_raster_caps_changes, PX_Domain_Mask::Raster) |
+           domain_bit(m_linetype_caps_changes, PX_Domain_Mask::Linetype) |
+           domain_bit(m_custom_caps_changes.size(), PX_Domain_Mask::Custom);
+}
+
+long PX_Std_Plotter_Validator::get_media_cfg_changes() const {
+    return m_media_cfg_changes;
+}
+
+long PX_Std_Plotter_Validator::get_io_cfg_changes() const {
+    return m_io_cfg_changes;
+}
+
+long PX_Std_Plotter_Validator::get_phys_pen_cfg_changes() const {
+    return m_phys_pen_cfg_changes;
+}
+
+long PX_Std_Plotter_Validator::get_res_color_mem_cfg_changes() const {
+    return m_res_color_mem_cfg_changes;
+}
+
+long PX_Std_Plotter_Validator::get_init_term_cfg_changes() const {
+    return m_init_term_cfg_changes;
+}
+
+long PX_Std_Plotter_Validator::get_media_caps_changes() const {
+    return m_media_caps_changes;
+}
+
+long PX_Std_Plotter_Validator::get_io_caps_changes() const {
+    return m_io_caps_changes;
+}
+
+long PX_Std_Plotter_Validator::get_phys_pen_caps_changes() const {
+    return m_phys_pen_caps_changes;
+}
+
+long PX_Std_Plotter_Validator::get_res_color_mem_caps_changes() const {
+    return m_res_color_mem_caps_changes;
+}
+
+long PX_Std_Plotter_Validator::get_init_term_caps_changes() const {
+    return m_init_term_caps_changes;
+}
+
+long PX_Std_Plotter_Validator::get_raster_caps_changes() const {
+    return m_raster_caps_changes;
+}
+
+long PX_Std_Plotter_Validator::get_linetype_caps_changes() const {
+    return m_linetype_caps_changes;
+}
+
+void PX_Std_Plotter_Validator::set_media_cfg_changes(long changes) {
+    m_media_cfg_changes = changes;
+}
+
+void PX_Std_Plotter_Validator::set_io_cfg_changes(long changes) {
+    m_io_cfg_changes = changes;
+}
+
+void PX_Std_Plotter_Validator::set_phys_pen_cfg_changes(long changes) {
+    m_phys_pen_cfg_changes = changes;
+}
+
+void PX_Std_Plotter_Validator::set_res_color_mem_cfg_changes(long changes) {
+    m_res_color_mem_cfg_changes = changes;
+}
+
+void PX_Std_Plotter_Validator::set_init_term_cfg_changes(long changes) {
+    m_init_term_cfg_changes = changes;
+}
+
+void PX_Std_Plotter_Validator::set_media_caps_changes(long changes) {
+    m_media_caps_changes = changes;
+}
+
+void PX_Std_Plotter_Validator::set_io_caps_changes(long changes) {
+    m_io_caps_changes = changes;
+}
+
+void PX_Std_Plotter_Validator::set_phys_pen_caps_changes(long changes) {
+    m_phys_pen_caps_changes = changes;
+}
+
+void PX_Std_Plotter_Validator::set_res_color_mem_caps_changes(long changes) {
+    m_res_color_mem_caps_changes = changes;
+}
+
+void PX_Std_Plotter_Validator::set_init_term_caps_changes(long changes) {
+    m_init_term_caps_changes = changes;
+}
+
+void PX_Std_Plotter_Validator::set_raster_caps_changes(long changes) {
+    m_raster_caps_changes = changes;
+}
+
+void PX_Std_Plotter_Validator::set_linetype_caps_changes(long changes) {
+    m_linetype_caps_changes = changes;
+}
+
+bool PX_Std_Plotter_Validator::get_one_custom_cfg_change(const wchar_t* name) const {
+    return m_custom_cfg_changes.find(name) != nullptr;
+}
+
+void PX_Std_Plotter_Validator::set_one_custom_cfg_change(const wchar_t* name) {
+    m_custom_cfg_changes.append(name);
+}
+
+bool PX_Std_Plotter_Validator::get_one_custom_caps_change(const wchar_t* name) const {
+    return m_custom_caps_changes.find(name) != nullptr;
+}
+
+void PX_Std_Plotter_Validator::set_one_custom_caps_change(const wchar_t* name) {
+    m_custom_caps_changes.append(name);
+}
+
+void PX_Std_Plotter_Validator::clear_all_flags() {
+    m_media_cfg_changes = 0;
+    m_io_cfg_changes = 0;
+    m_phys_pen_cfg_changes = 0;
+    m_res_color_mem_cfg_changes = 0;
+    m_init_term_cfg_changes = 0;
+    m_media_caps_changes = 0;
+    m_io_caps_changes = 0;
+    m_phys_pen_caps_changes = 0;
+    m_res_color_mem_caps_changes = 0;
+    m_init_term_caps_changes = 0;
+    m_raster_caps_changes = 0;
+    m_linetype_caps_changes = 0;
+    m_custom_cfg_changes.clear();
+    m_custom_caps_changes.clear();
+}
+
+void PX_Std_Plotter_Validator::set_all_to_defaults() {
+    // The name in the trace differs from the operation's on purpose.
+    px_frame(L"PX_Std_Plotter_Validator::set_all_default", [&] {
+        call(m_media_validator, &PX_Media_Validator::set_all_media_to_defaults);
+        call(m_phys_pen_validator, &PX_PhysPen_Validator::set_all_physpen_to_defaults);
+        call(m_res_color_mem_validator, &PX_ResColorMem_Validator::set_all_res_color_mem_to_defaults);
+        call(m_custom_validator, &PX_Custom_Validator::set_all_custom_to_defaults);
+        call(m_init_term_validator, &PX_InitTerm_Validator::set_all_init_term_to_defaults);
+        call(m_io_validator, &PX_Plotter_IO_Validator::set_all_io_to_defaults);
+    });
+}
+
+void PX_Std_Plotter_Validator::set_selected_to_defaults(long mask) {
+    px_frame(L"PX_Std_Plotter_Validator::set_selected_to_defaults", [&] {
+        if (mask & PX_Domain_Mask::Media)
+            call(m_media_validator, &PX_Media_Validator::set_all_media_to_defaults);
+        if (mask & PX_Domain_Mask::IO)
+            call(m_io_validator, &PX_Plotter_IO_Validator::set_all_io_to_defaults);
+        if (mask & PX_Domain_Mask::Phys_Pens)
+            call(m_phys_pen_validator, &PX_PhysPen_Validator::set_all_physpen_to_defaults);
+        if (mask & PX_Domain_Mask::Res_Color_Mem)
+            call(m_res_color_mem_validator, &PX_ResColorMem_Validator::set_all_res_color_mem_to_defaults);
+        if (mask & PX_Domain_Mask::Init_Term)
+            call(m_init_term_validator, &PX_InitTerm_Validator::set_all_init_term_to_defaults);
+        if (mask & PX_Domain_Mask::Custom)
+            call(m_custom_validator, &PX_Custom_Validator::set_all_custom_to_defaults);
+    });
+}
+
+void PX_Std_Plotter_Validator::set_selected_rescolormem_data_to_defaults() {
+    px_frame(L"PX_Std_Plotter_Validator::set_selected_rescolormem_data_to_defaults", [&] {
+        using RCM = PX_ResColorMem_Validator;
+        // The memory limits, the raster preference and the line overwriting stay out of this on purpose; the
+        // memory area and the dithering mode are there for the sake of derived validators.
+        for (const auto set_to_default :
+             {&RCM::set_res_color_mem_to_default, &RCM::set_mem_area_to_default,
+              &RCM::set_resolution_to_default, &RCM::set_HardSoftNo_Dithering_to_default,
+              &RCM::set_installed_memory_to_default, &RCM::set_dithering_mode_to_default,
+              &RCM::set_icm_method_to_default, &RCM::set_icm_intent_to_default, &RCM::set_dm_color_to_default,
+              &RCM::set_color_vs_mono_to_default})
+            call(m_res_color_mem_validator, set_to_default);
+    });
+}
+
+bool PX_Std_Plotter_Validator::delete_user_defined_caps(long mask) {
+    const auto capabilities = m_plotter->get_plotter_capabilities();
+    if (!capabilities)
+        return false;
+    const auto media = capabilities->get_media_capabilities();
+    if (media && mask & PX_Domain_Mask::Media) {
+        remove_user_defined(media->get_media_size_list());
+        remove_user_defined(media->get_media_description_list());
+    }
+    return true;
+}

@@ -1,0 +1,91 @@
+#include "toolkit/core/frame.h"
+#include "toolkit/marvcon/std_init_term_cfg/domain.h"
+#include "toolkit/marvcon/std_plval/domain_objects.h"
+#include "toolkit/marvcon/std_plval/validator.h"
+
+// The run over the whole configuration: which data there are, in which order, and what is done with each.
+
+namespace {
+constexpr PX_Source source = PX_SOURCE(L"std_plval");
+}
+
+bool PX_Std_Plotter_Validator::validate_all(PX_Validation_Strategy::Enum strategy,
+                                            PX_Validation_Policy::Enum policy, bool validate_settable) {
+    return px_frame(L"PX_Std_Plotter_Validator::validate_all", [&] {
+        clear_all_flags();
+        m_strategy = strategy;
+        m_policy = policy;
+        m_validate_settable = validate_settable;
+        walk_every_datum();
+        return get_config_changed() != 0 || get_caps_changed() != 0;
+    });
+}
+
+// A later datum is checked against what the earlier ones have just fixed: the order is part of the contract.
+void PX_Std_Plotter_Validator::walk_every_datum() {
+    using Init_Term = PX_InitTerm_Ability_Flags;
+    using Init_Term_Validator = PX_InitTerm_Validator;
+
+    // clang-format off
+    validate_initterm_datum(Init_Term::Preinit_String,     Init_Term::Preinit_String,     &Init_Term_Validator::validate_preinit_string,     &Init_Term_Validator::set_preinit_string_to_default);
+    validate_initterm_datum(Init_Term::Postinit_String,    Init_Term::Postinit_String,    &Init_Term_Validator::validate_postinit_string,    &Init_Term_Validator::set_postinit_string_to_default);
+    validate_initterm_datum(Init_Term::Termination_String, Init_Term::Termination_String, &Init_Term_Validator::validate_termination_string, &Init_Term_Validator::set_termination_string_to_default);
+    // clang-format on
+
+    // Custom data have no ability: they are validated under every policy.
+    if (m_custom_validator)
+        m_custom_validator->validate_all_custom(m_strategy);
+}
+
+template <class Domain, class Ability, class Datum>
+void PX_Std_Plotter_Validator::validate_datum(
+    typename Domain::Validator& validator, Ability ability, Datum datum,
+    void (Domain::Validator::*validate)(PX_Validation_Strategy::Enum),
+    void (Domain::Validator::*set_to_default)()) {
+    const PX_Domain_Objects<Domain> domain(m_plotter, L"PX_Std_Plotter_Validator::validate_datum");
+    switch (check_validate_datum(domain.capabilities->get_one_ability(ability))) {
+        case PX_Validator_Action::Validate:
+            if (!domain.configuration->get_one_validated(datum))
+                (validator.*validate)(m_strategy);
+            break;
+        case PX_Validator_Action::Set_To_Default:
+            (validator.*set_to_default)();
+            break;
+        case PX_Validator_Action::No_Action:
+            break;
+    }
+}
+
+void PX_Std_Plotter_Validator::validate_initterm_datum(
+    PX_InitTerm_Ability_Flags::Enum ability, PX_InitTerm_Ability_Flags::Enum datum,
+    void (PX_InitTerm_Validator::*validate)(PX_Validation_Strategy::Enum),
+    void (PX_InitTerm_Validator::*set_to_default)()) {
+    validate_datum<PX_InitTerm_Domain>(*m_init_term_validator, ability, datum, validate, set_to_default);
+}
+
+PX_Validator_Action::Enum PX_Std_Plotter_Validator::check_validate_datum(
+    PX_Ability_Value::Enum ability) const {
+    using Policy = PX_Validation_Policy;
+    using Action = PX_Validator_Action;
+    switch (ability) {
+        case PX_Ability_Value::Ability_None:
+            return Action::Set_To_Default;
+        case PX_Ability_Value::Ability_Fixed:
+            return m_policy == Policy::Keep_All ? Action::No_Action : Action::Set_To_Default;
+        case PX_Ability_Value::Ability_Settable:
+        case PX_Ability_Value::Ability_Settable_Listed:
+            if (m_policy == Policy::Keep_All)
+                return Action::No_Action;
+            return m_validate_settable ? Action::Validate : Action::Set_To_Default;
+        case PX_Ability_Value::Ability_Conditional:
+            if (m_policy == Policy::Keep_All || m_policy == Policy::Keep_Conditional)
+                return Action::No_Action;
+            // A policy outside the enum acts as the one that resets.
+            return m_policy == Policy::Validate_Conditional ? Action::Validate : Action::Set_To_Default;
+        case PX_Ability_Value::Ability_Required:
+            return Action::Validate;
+        default:
+            throw MVNK_Error(PX_Code::Bad_Ability, L"PX_Std_Plotter_Validator::check_validate_datum", nullptr,
+                             source.file_tag);
+    }
+}

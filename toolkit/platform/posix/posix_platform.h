@@ -1,0 +1,46 @@
+#pragma once
+
+#include "toolkit/platform/platform.h"
+
+// A machine with dlopen, UTF-8 and a terminal.
+//
+// Modules: the ending ".dll" stands for ".so". A relative name is looked for in the folder of the running
+// program, in ../<library folder>/marvcon from there, in the folder of the toolkit's own library and in
+// marvcon below that; never along the system's library path.
+//
+// Boxes: asked and answered in English where both descriptors are terminals, a line for an answer. Elsewhere
+// the text is printed, and the answer is the one that ends the matter: Abort, Cancel, or else OK.
+class PX_EXPORT PX_Posix_Platform : public PX_Platform {
+public:
+    // The descriptors stay the caller's.
+    explicit PX_Posix_Platform(int answers_fd = 0, int questions_fd = 2);
+
+    // `file` and `flags` are not used.
+    HMODULE LoadLibraryExW(const wchar_t* name, HANDLE file, DWORD flags) override;
+    HMODULE LoadLibraryW(const wchar_t* name) override;
+    FARPROC GetProcAddress(HMODULE module, const char* name) override;
+    BOOL FreeLibrary(HMODULE module) override;
+    // Fails for a path that is not UTF-8.
+    DWORD GetModuleFileNameW(HMODULE module, wchar_t* path, DWORD size) override;
+    int LoadStringW(HMODULE module, UINT id, wchar_t* text, int size) override;
+    // Every code page is UTF-8, so that the default character is never used.
+    int WideCharToMultiByte(UINT code_page, DWORD flags, const wchar_t* text, int length, char* bytes,
+                            int bytes_size, const char* default_char, BOOL* used_default) override;
+    const wchar_t* path_separator() const override;
+    int _wfopen_s(std::FILE** stream, const wchar_t* name, const wchar_t* mode) override;
+
+    // An unknown type is a box with OK alone.
+    int MessageBoxExW(HWND owner, const wchar_t* text, const wchar_t* caption, UINT type,
+                      WORD language) override;
+    // Always null.
+    HWND GetActiveWindow() override;
+
+    // The word of the calling thread. Bits other than rounding, exception masks and denormal control are
+    // ignored and read as 0; so is denormal control on a processor without it. ENOTSUP when the processor
+    // refuses a rounding or an exception.
+    int _controlfp_s(unsigned int* current, unsigned int value, unsigned int mask) override;
+
+private:
+    int m_answers_fd;
+    int m_questions_fd;
+};

@@ -1,0 +1,75 @@
+#pragma once
+
+#include <concepts>
+#include <deque>
+#include <string>
+#include <vector>
+
+// What every concern of the scripted machine shares: the record of calls, the faults that a test orders, and
+// the handles. An operation goes by its own name, such as "LoadStringW".
+class PX_Scripted_Calls {
+public:
+    struct Call {
+        std::string operation;
+        // The arguments that go in, in their order and in words: a text as it is, a number in decimal, a
+        // handle by the name of what it opened, "null" or "unknown".
+        std::vector<std::wstring> arguments;
+        // It failed because the test ordered a fault.
+        bool is_fault = false;
+        // The caller passed what it has no right to, such as a handle that it has freed. The operation
+        // failed.
+        bool is_misuse = false;
+    };
+
+    static constexpr int always = -1;
+
+    // Lets `times` calls of the operation fail after `after` further ones have run. The operation then has no
+    // effect and gives what it gives for a failure: null, 0, EACCES for a stream, EINVAL for the control
+    // word. Orders for one operation are served one after the other.
+    void fail(std::string operation, int times = 1, int after = 0);
+    // The operations of faults that were ordered and have not happened: the test did not get where it meant
+    // to, or the name is misspelt. Those ordered for `always` do not count.
+    std::vector<std::string> unspent_faults() const;
+
+    const std::vector<Call>& calls() const { return m_calls; }
+    std::vector<Call> calls_of(const std::string& operation) const;
+    int count_of(const std::string& operation) const;
+    int count_misuses() const;
+    // Faults that are still to come and handles stay.
+    void forget_calls() { m_calls.clear(); }
+
+protected:
+    PX_Scripted_Calls() = default;
+    ~PX_Scripted_Calls() = default;
+    PX_Scripted_Calls(const PX_Scripted_Calls&) = delete;
+    PX_Scripted_Calls& operator=(const PX_Scripted_Calls&) = delete;
+
+    // The first thing an operation does: records the call. True if it is to fail by order.
+    template <class... Arguments>
+    bool must_fail(const char* operation, const Arguments&... arguments) {
+        return record({operation, {words(arguments)...}});
+    }
+    void mark_misuse() { m_calls.back().is_misuse = true; }
+
+    // A handle that no other has been or will be, known in words by this name.
+    void* new_handle(std::wstring name);
+
+private:
+    struct Fault {
+        std::string operation;
+        int times;
+        int after;
+    };
+
+    bool record(Call call);
+    std::wstring words(const void* handle) const;
+    static std::wstring words(const wchar_t* text);
+    static std::wstring words(const char* text);
+    static std::wstring words(const std::wstring& text) { return text; }
+    static std::wstring words(std::integral auto number) { return std::to_wstring(number); }
+
+    std::vector<Call> m_calls;
+    std::vector<Fault> m_faults;
+    // A handle is the address of its name.
+    std::deque<std::wstring> m_handle_names;
+};

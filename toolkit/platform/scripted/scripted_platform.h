@@ -1,0 +1,118 @@
+#pragma once
+
+#include <filesystem>
+#include <map>
+#include <queue>
+#include <string>
+#include <vector>
+
+#include "toolkit/platform/back_end.h"
+#include "toolkit/platform/platform.h"
+#include "toolkit/platform/scripted/scripted_calls.h"
+
+// A machine that a test sets up. It has nothing but what it is told to have, records every call with its
+// arguments, and fails by order (PX_Scripted_Calls). Serves one thread.
+class PX_Scripted_Platform : public PX_Platform, public PX_Scripted_Calls {
+public:
+    struct Box {
+        std::wstring text;
+        std::wstring caption;
+        UINT type;
+        WORD language;
+        HWND owner;
+    };
+
+    PX_Scripted_Platform() = default;
+    ~PX_Scripted_Platform() override;
+
+    // A module is loaded by exactly this name, folder and ending included; it is its path too. Installed
+    // again, it gets the new texts and keeps its procedures and its loads.
+    void install_module(const std::wstring& name, std::map<UINT, std::wstring> texts = {});
+    // Any function; the module is installed if it is not. A module that exists has no other procedures.
+    template <class Function>
+    void export_procedure(const std::wstring& module, const std::string& procedure, Function* function) {
+        // The way round by void (*)() is the one that compilers accept for any function.
+        const auto plain = reinterpret_cast<void (*)()>(function);
+        m_modules[module].procedures[procedure] = reinterpret_cast<FARPROC>(plain);
+    }
+    // The names of the modules in memory, sorted, once for each load that has not been freed.
+    std::vector<std::wstring> loaded_modules() const;
+
+    // At first C:\Program\host.exe.
+    void place_program_at(const std::wstring& path) { m_program_path = path; }
+    // GetModuleFileNameW fails for the program.
+    void hide_program_path() { m_program_path.clear(); }
+    // At first a backslash.
+    void separate_folders_by(wchar_t separator) { m_separator[0] = separator; }
+
+    // The bytes in a file that _wfopen_s has opened, also while it is open; empty if it never was. The
+    // machine has only these files, and keeps them as long as it lives.
+    std::string log_of(const std::wstring& name) const;
+
+    // The answers are given in this order and whatever the type of the box; 0 is a box that could not be
+    // shown. Without one, a box is answered as by nobody: Abort, Cancel, or else OK.
+    void answer_next_box(int answer) { m_answers.push(answer); }
+    // The boxes shown. One that failed by order is not among them and takes no answer.
+    const std::vector<Box>& boxes() const { return m_boxes; }
+    // Makes a window and has GetActiveWindow give it; before, that gives null.
+    HWND activate_window();
+
+    // Changes the word behind the toolkit's back, as printer code does. Bits that the platform does not have
+    // are dropped. At first all exceptions are masked, and nothing else is set.
+    void write_control_word(unsigned int word) { m_control_word = word & px_fp_bits; }
+    unsigned int control_word() const { return m_control_word; }
+
+    HMODULE LoadLibraryExW(const wchar_t* name, HANDLE file, DWORD flags) override;
+    HMODULE LoadLibraryW(const wchar_t* name) override;
+    FARPROC GetProcAddress(HMODULE module, const char* name) override;
+    BOOL FreeLibrary(HMODULE module) override;
+    DWORD GetModuleFileNameW(HMODULE module, wchar_t* path, DWORD size) override;
+    int LoadStringW(HMODULE module, UINT id, wchar_t* text, int size) override;
+    // Every code page is UTF-8.
+    int WideCharToMultiByte(UINT code_page, DWORD flags, const wchar_t* text, int length, char* bytes,
+                            int bytes_size, const char* default_char, BOOL* used_default) override;
+    // Not recorded.
+    const wchar_t* path_separator() const override;
+    int _wfopen_s(std::FILE** stream, const wchar_t* name, const wchar_t* mode) override;
+    int MessageBoxExW(HWND owner, const wchar_t* text, const wchar_t* caption, UINT type,
+                      WORD language) override;
+    HWND GetActiveWindow() override;
+    int _controlfp_s(unsigned int* current, unsigned int value, unsigned int mask) override;
+
+private:
+    struct Module {
+        std::map<UINT, std::wstring> texts;
+        std::map<std::string, FARPROC> procedures;
+        // Null while it is not in memory. A later load gives another one, so that a stale handle shows.
+        HMODULE handle = nullptr;
+        int loads = 0;
+    };
+    using Installed = std::map<std::wstring, Module>::value_type;
+
+    HMODULE load(const wchar_t* name);
+    // Null for a null handle, and for a misuse, which it marks.
+    Installed* in_memory(HMODULE module);
+    std::filesystem::path new_file();
+
+    std::map<std::wstring, Module> m_modules;
+    std::wstring m_program_path = L"C:\\Program\\host.exe";
+    wchar_t m_separator[2] = {L'\\', L'\0'};
+    std::filesystem::path m_folder;
+    std::map<std::wstring, std::filesystem::path> m_files;
+    std::queue<int> m_answers;
+    std::vector<Box> m_boxes;
+    HWND m_active_window = nullptr;
+    unsigned int m_control_word = px_fp_exceptions;
+};
+
+// Makes a platform the current one while it lives, and then puts the former one back.
+class PX_Use_Platform {
+public:
+    explicit PX_Use_Platform(PX_Platform& platform) : m_former(PX_Set_Platform(&platform)) {}
+    ~PX_Use_Platform() { PX_Set_Platform(m_former); }
+    PX_Use_Platform(const PX_Use_Platform&) = delete;
+    PX_Use_Platform& operator=(const PX_Use_Platform&) = delete;
+
+private:
+    PX_Platform* m_former;
+};

@@ -1,0 +1,55 @@
+#pragma once
+
+#include <climits>
+#include <cstddef>
+#include <cwchar>
+#include <string>
+#include <string_view>
+
+// Wide text to UTF-8. What is no character, a lone surrogate or a value above 0x10FFFF, becomes U+FFFD.
+
+inline void px_append_utf8(std::string& bytes, char32_t c) {
+    if (c > 0x10FFFF || (c & 0xFFFFF800) == 0xD800)
+        c = 0xFFFD;
+    constexpr char32_t leads[] = {0x00, 0xC0, 0xE0, 0xF0};
+    const int tails = c < 0x80 ? 0 : c < 0x800 ? 1 : c < 0x10000 ? 2 : 3;
+    bytes += static_cast<char>(leads[tails] | c >> (6 * tails));
+    for (int tail = tails - 1; tail >= 0; --tail)
+        bytes += static_cast<char>(0x80 | (c >> (6 * tail) & 0x3F));
+}
+
+template <class Character>
+std::string px_encode_utf8(std::basic_string_view<Character> text) {
+    std::string bytes;
+    for (std::size_t at = 0; at < text.size(); ++at) {
+        char32_t c = static_cast<char32_t>(text[at]);
+        // Characters of 16 bits are UTF-16 units; wider ones stand for themselves, surrogates too.
+        if constexpr (sizeof(Character) == 2) {
+            if ((c & 0xFC00) == 0xD800 && at + 1 < text.size() && (text[at + 1] & 0xFC00) == 0xDC00)
+                c = 0x10000 + ((c & 0x3FF) << 10) + (text[++at] & 0x3FF);
+        }
+        px_append_utf8(bytes, c);
+    }
+    return bytes;
+}
+
+inline std::string px_to_utf8(std::wstring_view text) {
+    return px_encode_utf8(text);
+}
+
+// WideCharToMultiByte of a machine whose code pages are all UTF-8. Nothing is written unless all of it fits.
+inline int px_wide_char_to_utf8(const wchar_t* text, int length, char* bytes, int bytes_size) {
+    if (!text || length == 0 || bytes_size < 0)
+        return 0;
+    const std::size_t characters = length < 0 ? std::wcslen(text) + 1 : static_cast<std::size_t>(length);
+    const std::string encoded = px_to_utf8({text, characters});
+    if (encoded.size() > INT_MAX)
+        return 0;
+    const int needed = static_cast<int>(encoded.size());
+    if (bytes_size == 0)
+        return needed;
+    if (!bytes || needed > bytes_size)
+        return 0;
+    encoded.copy(bytes, encoded.size());
+    return needed;
+}

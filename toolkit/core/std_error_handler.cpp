@@ -36,11 +36,8 @@ Std_Error_Handler::Std_Error_Handler(PX_Smart_Pointer<PX_Error_Handler> parent) 
 }
 
 Std_Error_Handler::~Std_Error_Handler() {
-    if (m_parent) {
-        m_parent->remove_child(this);
-        if (auto* const standard = dynamic_cast<Std_Error_Handler*>(m_parent.get()))
-            standard->forget_child(this);
-    }
+    if (m_parent)
+        leave(*m_parent, this);
     if (m_log_stream)
         std::fclose(m_log_stream);
 }
@@ -240,7 +237,7 @@ void Std_Error_Handler::add_child(PX_Error_Handler* child) {
     // A list that the child has left must not point to it when it goes.
     PX_Error_Handler* const former = parent_of(*child);
     if (former && former != this)
-        former->remove_child(child);
+        leave(*former, child);
     set_parent_of(*child, this);
     m_children.push_back(child);
 }
@@ -251,8 +248,11 @@ void Std_Error_Handler::remove_child(PX_Error_Handler* child) {
         m_children.erase(entry);
 }
 
-void Std_Error_Handler::forget_child(const PX_Error_Handler* child) {
-    std::erase(m_children, child);
+// A child that was entered more than once leaves nothing behind in a standard handler.
+void Std_Error_Handler::leave(PX_Error_Handler& parent, PX_Error_Handler* child) {
+    parent.remove_child(child);
+    if (auto* const standard = dynamic_cast<Std_Error_Handler*>(&parent))
+        std::erase(standard->m_children, child);
 }
 
 PX_Smart_Pointer<PX_Progress> Std_Error_Handler::get_progress() const {

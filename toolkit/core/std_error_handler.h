@@ -95,7 +95,7 @@ private:
     PX_Error_Result log_and_confirm(const Report& report, const wchar_t* caption);
     bool open_log();
     void write_log(const wchar_t* text);
-    void forget_child(const PX_Error_Handler* child);
+    static void leave(PX_Error_Handler& parent, PX_Error_Handler* child);
 
     bool m_quiet = false;
     bool m_log = false;

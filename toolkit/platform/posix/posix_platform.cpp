@@ -42,7 +42,7 @@ std::vector<fs::path> search_path() {
     if (const fs::path program = program_path(); !program.empty()) {
         const fs::path folder = program.parent_path();
         folders.push_back(folder);
-        folders.push_back(folder / ".." / MARVCON_LIBDIR / "marvcon");
+        folders.push_back(folder.parent_path() / MARVCON_LIBDIR / "marvcon");
     }
     if (const fs::path library = toolkit_library_path(); !library.empty()) {
         folders.push_back(library.parent_path());

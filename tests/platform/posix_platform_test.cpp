@@ -52,7 +52,7 @@ public:
     void type(const std::string& keys) {
         EXPECT_EQ(write(m_user, keys.data(), keys.size()), static_cast<ssize_t>(keys.size()));
     }
-    // Ends the session.
+    // Hangs up.
     std::string shown() {
         close(std::exchange(program, -1));
         return read_all(m_user);
@@ -121,13 +121,16 @@ TEST(PosixMessageBox, EndsTheMatterWithoutATerminal) {
     terminal.type("R\n");
     int ends[2];
     ASSERT_EQ(pipe(ends), 0);
+    ASSERT_EQ(write(ends[1], "I\n", 2), 2);
+    PX_Posix_Platform unheard(ends[0], terminal.program);
+    EXPECT_EQ(unheard.MessageBoxExW(nullptr, L"T", L"C", 50, 0), IDABORT);
     PX_Posix_Platform platform(terminal.program, ends[1]);
     EXPECT_EQ(platform.MessageBoxExW(nullptr, L"T", nullptr, 50, 0), IDABORT);
     EXPECT_EQ(platform.MessageBoxExW(nullptr, nullptr, L"C", 49, 0), IDCANCEL);
     EXPECT_EQ(platform.MessageBoxExW(nullptr, L"T", L"C", 16, 0), IDOK);
     EXPECT_EQ(platform.MessageBoxExW(nullptr, L"T", L"C", 5, 0), IDOK) << "an unknown type";
     close(ends[1]);
-    EXPECT_EQ(read_all(ends[0]), "\nT\nC\n\nC\nT\nC\nT\n");
+    EXPECT_EQ(read_all(ends[0]), "I\n\nT\nC\n\nC\nT\nC\nT\n");
     close(ends[0]);
 }
 

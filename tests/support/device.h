@@ -1,0 +1,52 @@
+#pragma once
+
+#include <string>
+
+#include "tests/support/test_handler.h"
+#include "toolkit/marvcon/marvcon.h"
+
+namespace support {
+
+// A definition with all domains that the library holds, each created by the factory.
+class Device {
+public:
+    Device() : Device(new PX_Std_Plotter_Definition(new Test_Handler)) {}
+    explicit Device(PX_Plotter_Definition* plotter) : m_plotter(plotter) {
+        const auto factory = plotter->get_class_factory();
+        plotter->set_meta_capabilities(factory->MK_Create_Meta_Capabilities());
+        PX_Plotter_Capabilities* const caps = factory->MK_Create_Plotter_Capabilities(L"", L"", L"");
+        plotter->set_plotter_capabilities(caps);
+        caps->set_init_term_capabilities(
+            PX_Smart_Pointer<PX_InitTerm_Capabilities>(factory->MK_Create_InitTerm_Capabilities()).get());
+        PX_Plotter_Configuration* const cfg = factory->MK_Create_Plotter_Configuration(L"", L"", L"");
+        plotter->set_plotter_configuration(cfg);
+        cfg->set_init_term_configuration(
+            PX_Smart_Pointer<PX_InitTerm_Configuration>(factory->MK_Create_InitTerm_Configuration()).get());
+    }
+
+    PX_Plotter_Definition* operator->() const { return m_plotter.get(); }
+    PX_Plotter_Definition* get() const { return m_plotter.get(); }
+    PX_Smart_Pointer<PX_Plotter_Validator> validator() const { return m_plotter->get_plotter_validator(); }
+    PX_Smart_Pointer<PX_InitTerm_Capabilities> init_term_caps() const {
+        return m_plotter->get_plotter_capabilities()->get_init_term_capabilities();
+    }
+    PX_Smart_Pointer<PX_InitTerm_Configuration> init_term_cfg() const {
+        return m_plotter->get_plotter_configuration()->get_init_term_configuration();
+    }
+
+private:
+    PX_Smart_Pointer<PX_Plotter_Definition> m_plotter;
+};
+
+// The bytes of a device string, or "(null)".
+inline std::string bytes(const PX_Smart_Pointer<PX_Dev_String>& string) {
+    if (!string)
+        return "(null)";
+    return {reinterpret_cast<const char*>(string->data()), static_cast<std::size_t>(string->length())};
+}
+
+inline PX_Dev_String dev_string(const std::string& bytes) {
+    return {reinterpret_cast<const unsigned char*>(bytes.data()), static_cast<long>(bytes.size())};
+}
+
+}  // namespace support

@@ -68,8 +68,9 @@ TEST(Flags, EveryAccessorChecksItsRange) {
         {"get_one_default", [&](Flag f) { probe.get_one_default(f); }},
         {"set_one_default", [&](Flag f) { probe.set_one_default(true, f); }},
     };
-    for (const auto& [name, access] : accessors) {
-        SCOPED_TRACE(name);
+    for (const auto& accessor : accessors) {
+        const auto& access = accessor.second;
+        SCOPED_TRACE(accessor.first);
         for (const int outside : {-2, 17}) {
             const auto thrown = support::expect_thrown<PX_Severe_Error>(
                 [&] { access(static_cast<Flag>(outside)); }, 1104, L"toolkit/marvcon/std_probe_cfg",

@@ -55,10 +55,10 @@ public:
     }
 
 protected:
-    int get_flag(int index) const { return has_digit(index) ? m_flags[index] - L'0' : 0; }
+    int get_flag(int index) const { return has_digit(index) ? m_flags.get()[index] - L'0' : 0; }
     void set_flag(int index, int value) {
         if (has_digit(index))
-            m_flags[index] = digit(value);
+            m_flags.get()[index] = digit(value);
     }
     void set_flags(int value);
     // Never null.

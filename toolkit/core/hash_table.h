@@ -1,7 +1,9 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <utility>
 
 #include "toolkit/host/export.h"
 
@@ -63,7 +65,7 @@ public:
     template <class Visit>
     void for_each_entry(Visit visit) const {
         for (int bucket = 0; bucket < m_buckets; ++bucket) {
-            for (Entry* entry = m_table[bucket]; entry;) {
+            for (Entry* entry = m_table.get()[bucket]; entry;) {
                 Entry* const next = entry->next;
                 visit(entry);
                 entry = next;
@@ -76,8 +78,8 @@ public:
     int threshold() const { return m_threshold; }
 
 private:
-    int bucket_of(Key key) const {
-        return static_cast<int>(px_address_hash(key) & static_cast<std::uint32_t>(m_buckets - 1));
+    std::size_t bucket_of(Key key) const {
+        return px_address_hash(key) & static_cast<std::uint32_t>(m_buckets - 1);
     }
 
     void grow() {

@@ -114,7 +114,6 @@ bool write_word(unsigned int word) {
 }  // namespace
 
 int PX_Posix_Platform::_controlfp_s(unsigned int* current, unsigned int value, unsigned int mask) {
-    mask &= px_fp_bits;
     const bool done = mask == 0 || write_word((read_word() & ~mask) | (value & mask));
     if (current)
         *current = read_word();

@@ -16,8 +16,7 @@ public:
         std::vector<std::wstring> arguments;
         // It failed because the test ordered a fault.
         bool is_fault = false;
-        // The caller passed what it has no right to, such as a handle that it has freed. The operation
-        // failed.
+        // It failed because the caller passed what it has no right to, such as a handle that it has freed.
         bool is_misuse = false;
     };
 

@@ -114,14 +114,53 @@ TEST(SmartPointer, AssigningItsOwnOnlyObjectDeletesIt) {
     EXPECT_EQ(pointer, nullptr) << "nothing dangles";
 }
 
-TEST(Module, ExitFreesThePoolAndLeavesTheObjects) {
+TEST(SmartPointer, AnObjectThatGoesTakesWhatOnlyItHeld) {
+    class Link : public PX_Object {
+    public:
+        PX_Smart_Pointer<Link> m_next;
+    };
+    PX_Smart_Pointer<Link> head(new Link);
+    head->m_next = new Link;
+    head = head->m_next;
+    EXPECT_EQ(head, nullptr) << "released before it was taken";
+    head = new Link;
+    head->m_next = new Link;
+    const PX_Smart_Pointer<Link> next = head->m_next;
+    head = head->m_next;
+    EXPECT_EQ(head, next);
+    EXPECT_EQ(SPMP()->get_count(next.get()), 2);
+}
+
+TEST(SmartPointer, IsAssignedAndComparedWithNullInEveryForm) {
+    Thing_Pointer pointer = nullptr;
+    EXPECT_TRUE(pointer == nullptr && nullptr == pointer && pointer == NULL && !pointer);
+    pointer = new Thing;
+    EXPECT_TRUE(pointer != nullptr && pointer);
+    pointer = nullptr;
+    EXPECT_FALSE(pointer);
+}
+
+TEST(Pool, LeavesTheObjectsWhenItGoes) {
     bool gone = false;
     const std::unique_ptr<Thing> thing(new Thing(&gone));
-    auto* const pointer = new Thing_Pointer(thing.get());
-    PX_Module_Exit();
-    EXPECT_EQ(SPMP()->get_count(thing.get()), -1);
-    delete pointer;
-    EXPECT_FALSE(gone) << "the count was lost with the pool";
+    {
+        PX_SPMem_Pool_Imp pool;
+        pool.add_reference(thing.get());
+    }
+    EXPECT_FALSE(gone);
+}
+
+TEST(Module, ExitLeavesLivingObjectsTheirCounts) {
+    bool gone = false;
+    {
+        const Thing_Pointer pointer(new Thing(&gone));
+        PX_Module_Exit();
+        EXPECT_EQ(SPMP()->get_count(pointer.get()), 1);
+        PX_Module_Exit();
+        { const Thing_Pointer copy = pointer; }
+        EXPECT_FALSE(gone);
+    }
+    EXPECT_TRUE(gone);
 }
 
 }  // namespace

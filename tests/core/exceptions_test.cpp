@@ -11,9 +11,12 @@ namespace {
 
 using support::thrown_by;
 
+// As long as real names are.
+constexpr const wchar_t* thrower = L"PX_Std_Media_Validator::validate_actual_printable_bounds";
+
 void through_frames(int frames) {
     if (frames == 0)
-        throw MVNK_Error(1103, L"thrower", L"detail", L"tag");
+        throw MVNK_Error(1103, thrower, L"detail", L"tag");
     px_frame(frames == 40 ? L"outermost" : L"frame", [&] { through_frames(frames - 1); });
 }
 
@@ -27,7 +30,7 @@ TEST(Exception, KeepsItsClassUntilAFrameIsPassed) {
     ASSERT_TRUE(framed);
     EXPECT_TRUE(framed->is<PX_Exception>());
     EXPECT_EQ(framed->code, 1103U);
-    EXPECT_EQ(framed->function, L"thrower");
+    EXPECT_EQ(framed->function, thrower);
     EXPECT_EQ(framed->detail, L"detail");
     EXPECT_EQ(framed->file, L"tag");
     EXPECT_EQ(framed->frames, std::vector<std::wstring>{L"frame"});

@@ -26,6 +26,21 @@ void expect_made(Create create) {
     EXPECT_EQ(create(), nullptr) << typeid(Standard).name();
 }
 
+// Null, whichever allocation it is that fails.
+template <class Create>
+void expect_null_until_there_is_memory(Create create) {
+    int failures = 0;
+    for (;; ++failures) {
+        const auto made = [&] {
+            const support::Out_Of_Memory none(failures);
+            return create();
+        }();
+        if (const PX_Smart_Pointer owned(made); owned)
+            break;
+    }
+    EXPECT_GE(failures, 2);
+}
+
 TEST(Class_Factory, MakesTheStandardClasses) {
     const PX_Std_Plotter_Class_Factory factory;
     const Device device;
@@ -57,6 +72,10 @@ TEST(Class_Factory, MakesTheStandardClasses) {
     expect_made<PX_Std_Plotter_Definition>([&] { return factory.MK_Create_Plotter_Definition(handler); });
     expect_made<PX_Std_Shoebox>([&] { return factory.MK_Create_Shoebox(); });
     expect_made<PX_Std_Kestrane_Shoebox>([&] { return factory.MK_Create_Kestrane_Shoebox(); });
+
+    expect_null_until_there_is_memory([&] { return factory.MK_Create_Meta_Capabilities(); });
+    expect_null_until_there_is_memory([&] { return factory.MK_Create_InitTerm_Configuration(); });
+    expect_null_until_there_is_memory([&] { return factory.MK_Create_Shoebox(); });
 }
 
 TEST(Class_Factory, TheCapsLoaderOnlyReleasesTheHandler) {

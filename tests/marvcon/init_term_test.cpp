@@ -137,13 +137,25 @@ TEST(InitTerm, ClonesReportNoMemory) {
     EXPECT_STREQ(clone->get_abilities(), L"12345");
     EXPECT_STREQ(clone->get_ui_owner(), L"321");
 
-    const PX_Std_InitTerm_Configuration cfg;
-    const support::Out_Of_Memory first;
-    expect_thrown<MVNK_Memory_Exception>([&] { delete caps.clone(); }, 1101,
-                                         L"PX_Std_InitTerm_Capabilities::clone", L"new_one");
-    const support::Out_Of_Memory second;
-    expect_thrown<MVNK_Memory_Exception>([&] { delete cfg.clone(); }, 1101,
-                                         L"PX_Std_InitTerm_Configuration::clone", L"new_one");
+    // Whichever allocation fails, of the object or of what it holds.
+    PX_Std_InitTerm_Configuration cfg;
+    const PX_Dev_String string = dev_string(with_zeros);
+    cfg.set_termination_string(&string);
+    const auto failures_of = [](const auto& object, const wchar_t* function) {
+        int failures = 0;
+        for (;; ++failures) {
+            const support::Out_Of_Memory none(failures);
+            const std::optional<support::Thrown> thrown = support::thrown_by([&] { delete object.clone(); });
+            if (!thrown)
+                return failures;
+            EXPECT_EQ(thrown->code, 1101U) << failures;
+            EXPECT_EQ(thrown->function, function);
+            EXPECT_EQ(thrown->detail, L"new_one");
+            EXPECT_TRUE(thrown->is<MVNK_Memory_Exception>());
+        }
+    };
+    EXPECT_GE(failures_of(caps, L"PX_Std_InitTerm_Capabilities::clone"), 3);
+    EXPECT_GE(failures_of(cfg, L"PX_Std_InitTerm_Configuration::clone"), 8);
 }
 
 class InitTerm_Validator : public testing::Test {

@@ -148,9 +148,12 @@ TEST(Meta_Capabilities, AFailingCloneOfAMemberPassesTheSetter) {
     PX_Std_Meta_Capabilities meta;
     const PX_Std_Family family;
     const auto before = meta.get_family();
-    const support::Out_Of_Memory none;
-    const auto thrown = expect_thrown<PX_Exception>([&] { meta.set_family(&family); }, 1101,
-                                                    L"PX_Std_Family::clone", L"new_one");
+    const auto thrown = expect_thrown<PX_Exception>(
+        [&] {
+            const support::Out_Of_Memory none;
+            meta.set_family(&family);
+        },
+        1101, L"PX_Std_Family::clone", L"new_one");
     EXPECT_EQ(thrown.frames, std::vector<std::wstring>{L"PX_Std_Meta_Capabilities::set_family"});
     EXPECT_EQ(meta.get_family(), before);
 }

@@ -206,14 +206,17 @@ TEST_F(Plotter_Validator, AnUndefinedAbilityEndsTheRunThere) {
     EXPECT_EQ(calls, "d0 ") << "what was done stays, what follows is not looked at";
 }
 
-TEST_F(Plotter_Validator, ReportsWhatIsMissing) {
-    m_device->set_plotter_configuration(new PX_Std_Plotter_Configuration);
-    expect_thrown<PX_Exception>([&] { run(Policy::Keep_All); }, 1103,
-                                L"PX_Std_Plotter_Validator::validate_datum",
-                                L"initterm_caps or initterm_cfg");
+TEST_F(Plotter_Validator, ReportsWhatIsMissingWhereItIsNeeded) {
+    constexpr const wchar_t* function = L"PX_Std_Plotter_Validator::validate_initterm_datum";
+    m_device.init_term_caps()->set_abilities(PX_Ability_Value::Ability_Conditional);
     m_device->set_plotter_configuration(nullptr);
-    expect_thrown<PX_Exception>([&] { run(Policy::Keep_All); }, 1103,
-                                L"PX_Std_Plotter_Validator::validate_datum", L"plotter_caps or plotter_cfg");
+    EXPECT_EQ(run(Policy::Keep_All), "custom ") << "nothing is asked of the configuration";
+    expect_thrown<PX_Exception>([&] { run(Policy::Validate_Conditional); }, 1103, function,
+                                L"plotter_caps or plotter_cfg");
+    EXPECT_EQ(calls, "");
+    m_device->set_plotter_capabilities(new PX_Std_Plotter_Capabilities);
+    expect_thrown<PX_Exception>([&] { run(Policy::Keep_All); }, 1103, function,
+                                L"initterm_caps or initterm_cfg");
 }
 
 TEST_F(Plotter_Validator, EachWordHasItsBitInTheMasksAndIsClearedByARun) {

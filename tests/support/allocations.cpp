@@ -10,6 +10,8 @@ int successes_left = -1;  // -1: no failure is ordered
 
 void* allocate(std::size_t size) {
     ++allocations;
+    if (successes_left >= 0 && successes_left-- == 0)
+        return nullptr;
     return std::malloc(size ? size : 1);
 }
 
@@ -22,8 +24,6 @@ void* operator new(std::size_t size) {
 }
 
 void* operator new(std::size_t size, const std::nothrow_t&) noexcept {
-    if (successes_left >= 0 && successes_left-- == 0)
-        return nullptr;
     return allocate(size);
 }
 

@@ -8,7 +8,7 @@ namespace support {
 // Calls of any operator new since the program began.
 std::size_t allocation_count();
 
-// While it lives, nothrow operator new fails once, after `successes` more calls of it.
+// While it lives, operator new fails once, after `successes` more calls of it.
 class Out_Of_Memory {
 public:
     explicit Out_Of_Memory(int successes = 0);

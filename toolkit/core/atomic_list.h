@@ -8,9 +8,9 @@
 
 // A singly linked list of values: each node holds a counted copy of its own.
 template <class T>
-class PX_EXPORT PX_Atomic_Object_List : public PX_Object {
+class PX_TEMPLATE_EXPORT PX_Atomic_Object_List : public PX_Object {
 protected:
-    class PX_EXPORT Node : public PX_Object {
+    class PX_TEMPLATE_EXPORT Node : public PX_Object {
     public:
         explicit Node(const T& value) : m_element(new T(value)) {}
 
@@ -20,7 +20,7 @@ protected:
 
 public:
     // A walk over the list from its head.
-    class PX_EXPORT iterator : public PX_Object {
+    class PX_TEMPLATE_EXPORT iterator : public PX_Object {
     public:
         bool has_next() const { return m_current != nullptr; }
         // The current value, and on to the next one; null at the end.
@@ -87,7 +87,7 @@ private:
 };
 
 template <class T>
-class PX_EXPORT PX_Searchable_Atomic_Object_List : public PX_Atomic_Object_List<T> {
+class PX_TEMPLATE_EXPORT PX_Searchable_Atomic_Object_List : public PX_Atomic_Object_List<T> {
 public:
     PX_Searchable_Atomic_Object_List* clone() const override { return new PX_Searchable_Atomic_Object_List; }
 
@@ -111,7 +111,7 @@ public:
 // `bool px_sorts_before(const T& inserted, const T& element, bool ascending)` beside it: a value goes in
 // front of the first element at which it is true.
 template <class T>
-class PX_EXPORT PX_Sortable_Atomic_Object_List : public PX_Searchable_Atomic_Object_List<T> {
+class PX_TEMPLATE_EXPORT PX_Sortable_Atomic_Object_List : public PX_Searchable_Atomic_Object_List<T> {
     using Node = typename PX_Searchable_Atomic_Object_List<T>::Node;
 
 public:

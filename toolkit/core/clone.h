@@ -1,28 +1,33 @@
 #pragma once
 
 #include <memory>
+#include <new>
 
 #include "toolkit/core/frame.h"
 #include "toolkit/core/smart_pointer.h"
 
 // A new object of the standard class with its properties copied by `copy(new_one)`, which uses the new
-// object's setters. No memory is MVNK_Memory_Exception 1101, detail "new_one"; what fails on the way deletes
-// the new object and passes through the frame of `function`.
+// object's setters. No memory for it or for what it holds is MVNK_Memory_Exception 1101, detail "new_one";
+// what fails on the way deletes the new object and passes through the frame of `function`.
 template <class Std, class Copy>
 Std* px_clone(const wchar_t* function, const wchar_t* file, Copy&& copy) {
-    std::unique_ptr<Std> new_one(px_frame(function, [] { return new Std; }));
-    if (!new_one)
-        throw MVNK_Memory_Exception(PX_Code::No_Memory, function, L"new_one", file);
-    px_frame(function, [&] { copy(*new_one); });
-    return new_one.release();
+    try {
+        std::unique_ptr<Std> new_one(px_frame(function, [] { return new Std; }));
+        if (new_one) {
+            px_frame(function, [&] { copy(*new_one); });
+            return new_one.release();
+        }
+    } catch (const std::bad_alloc&) {
+    }
+    throw MVNK_Memory_Exception(PX_Code::No_Memory, function, L"new_one", file);
 }
 
-// A clone of `source` in the place of what `field` held, in the frame of `function`. A null source is
-// MVNK_Error 1103 with the name of the argument as detail, and the field stays.
+// A clone of `source`, which is not null, takes the place of what `field` held, in the frame of `function`. A
+// clone that did not come into being is MVNK_Memory_Exception 1101, and the field stays.
 template <class T>
 void px_store_clone(PX_Smart_Pointer<T>& field, const T* source, const wchar_t* function,
                     const wchar_t* detail, const wchar_t* file) {
-    if (!source)
-        throw MVNK_Error(PX_Code::Null_Argument, function, detail, file);
-    px_frame(function, [&] { field = source->clone(); });
+    T* const clone = px_frame(function, [&] { return source->clone(); });
+    px_require_made(clone, function, detail, file);
+    field = clone;
 }

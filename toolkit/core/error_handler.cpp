@@ -8,6 +8,11 @@ void PX_Error_Handler::set_parent_of(PX_Error_Handler& child, PX_Error_Handler* 
 
 namespace {
 
+// The handler's contract has room for changing the names; none does.
+void log_path(PX_Error_Handler& handler, const PX_Exception& caught) {
+    handler.LogPath(const_cast<const wchar_t**>(caught.m_stack), caught.m_stack_depth);
+}
+
 // Hands what the exception says to one of the handler's reports.
 template <class Result>
 Result report(PX_Error_Handler& handler, const PX_Exception& caught,
@@ -19,11 +24,11 @@ Result report(PX_Error_Handler& handler, const PX_Exception& caught,
 
 }  // namespace
 
-PX_Error_Handler::PX_Error_Result px_report_by_kind(PX_Error_Handler& handler, PX_Exception& caught) {
+PX_Error_Handler::PX_Error_Result px_report_by_kind(PX_Error_Handler& handler, const PX_Exception& caught) {
     const PX_Exception::Handler kind = caught.get_handler();
     if (kind == PX_Exception::Handler_None)
         return PX_Error_Handler::Result_Abort;
-    handler.LogPath(caught.m_stack, caught.m_stack_depth);
+    log_path(handler, caught);
     switch (kind) {
         case PX_Exception::Handler_Info:
             report(handler, caught, &PX_Error_Handler::info);
@@ -43,12 +48,12 @@ PX_Error_Handler::PX_Error_Result px_report_by_kind(PX_Error_Handler& handler, P
     }
 }
 
-PX_Error_Handler::PX_Error_Result px_report_as_ARI(PX_Error_Handler& handler, PX_Exception& caught) {
-    handler.LogPath(caught.m_stack, caught.m_stack_depth);
+PX_Error_Handler::PX_Error_Result px_report_as_ARI(PX_Error_Handler& handler, const PX_Exception& caught) {
+    log_path(handler, caught);
     return report(handler, caught, &PX_Error_Handler::ARI_error);
 }
 
-void px_report_as_severe(PX_Error_Handler& handler, PX_Exception& caught) {
-    handler.LogPath(caught.m_stack, caught.m_stack_depth);
+void px_report_as_severe(PX_Error_Handler& handler, const PX_Exception& caught) {
+    log_path(handler, caught);
     report(handler, caught, &PX_Error_Handler::severe_error);
 }

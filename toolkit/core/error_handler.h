@@ -7,6 +7,9 @@
 // Where the user has to be asked, a failure goes to one of these: it logs, shows a box, and answers. A
 // handler may have a parent, which it holds counted; a handler that is given children is therefore itself
 // held by counted pointers.
+//
+// A handler that a driver writes from here and not from Std_Error_Handler leaves its parent in its destructor
+// by remove_child, and as a parent takes a child out of the former parent's list before it enters it.
 class PX_EXPORT PX_Error_Handler {
 public:
     enum PX_Error_Result : int {
@@ -73,6 +76,7 @@ protected:
 // What a caught exception is reported as: by its own kind, always as a question, or always as severe. Each
 // logs the exception's path first; an exception of no kind is not reported at all and gives Result_Abort.
 PX_EXPORT PX_Error_Handler::PX_Error_Result px_report_by_kind(PX_Error_Handler& handler,
-                                                              PX_Exception& caught);
-PX_EXPORT PX_Error_Handler::PX_Error_Result px_report_as_ARI(PX_Error_Handler& handler, PX_Exception& caught);
-PX_EXPORT void px_report_as_severe(PX_Error_Handler& handler, PX_Exception& caught);
+                                                              const PX_Exception& caught);
+PX_EXPORT PX_Error_Handler::PX_Error_Result px_report_as_ARI(PX_Error_Handler& handler,
+                                                             const PX_Exception& caught);
+PX_EXPORT void px_report_as_severe(PX_Error_Handler& handler, const PX_Exception& caught);

@@ -12,11 +12,13 @@ constexpr wchar_t module_name[] = L"mvnres11.dll";
 constexpr wchar_t default_language[] = L"en-US";
 constexpr DWORD path_capacity = 260;
 
+// The module, and the platform that loaded it: a handle says nothing to another one.
 HMODULE cached = nullptr;
+PX_Platform* cached_by = nullptr;
 
-void free_cached() {
-    if (cached)
-        PX_Get_Platform().FreeLibrary(cached);
+void free_cached(bool /*unloading*/) {
+    if (cached && cached_by == &PX_Get_Platform())
+        cached_by->FreeLibrary(cached);
     cached = nullptr;
 }
 
@@ -27,7 +29,9 @@ std::wstring language_module_path(PX_Platform& platform) {
     if (length == 0 || length >= path_capacity)
         return {};
     const std::wstring_view program(path, length);
-    const auto folder_end = program.find_last_of(platform.path_separator());
+    // The drive and both of its separators where Windows paths are.
+    const std::wstring_view separator = platform.path_separator();
+    const auto folder_end = program.find_last_of(separator == L"\\" ? L"\\/:" : separator);
     const auto folder = folder_end == program.npos ? std::wstring_view{} : program.substr(0, folder_end + 1);
     return std::wstring(folder) + L"userdata.dll";
 }
@@ -51,8 +55,11 @@ std::wstring product_language(PX_Platform& platform) {
 }  // namespace
 
 unsigned long long GetMVNErrResHandle() {
+    auto& platform = PX_Get_Platform();
+    if (cached_by != &platform)
+        cached = nullptr;
     if (!cached) {
-        auto& platform = PX_Get_Platform();
+        cached_by = &platform;
         cached = platform.LoadLibraryExW(module_name, nullptr, 0);
         if (!cached) {
             const std::wstring name = product_language(platform) + platform.path_separator() + module_name;

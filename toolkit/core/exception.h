@@ -18,12 +18,10 @@ struct PX_Source {
 
 // Numbers that several domains throw.
 struct PX_Code {
-    enum Enum : unsigned int {
-        Bad_Ability = 1001,
-        No_Memory = 1101,
-        Null_Argument = 1103,
-        Out_Of_Range = 1104,
-    };
+    static constexpr unsigned int Bad_Ability = 1001;
+    static constexpr unsigned int No_Memory = 1101;
+    static constexpr unsigned int Null_Argument = 1103;
+    static constexpr unsigned int Out_Of_Range = 1104;
 };
 
 // The root of the exception family. Everything the library throws on purpose is one of these, and what has
@@ -122,3 +120,19 @@ class PX_EXPORT MVNK_Memory_Exception : public PX_Severe_Error {
 public:
     using PX_Severe_Error::PX_Severe_Error;
 };
+
+// Throws MVNK_Error 1103 for a null argument or a missing object, which `detail` names.
+template <class Pointer>
+void px_require_argument(const Pointer& argument, const wchar_t* function, const wchar_t* detail,
+                         const wchar_t* file) {
+    if (!argument)
+        throw MVNK_Error(PX_Code::Null_Argument, function, detail, file);
+}
+
+// Throws MVNK_Memory_Exception 1101 for what could not be made, which `detail` names.
+template <class Pointer>
+void px_require_made(const Pointer& made, const wchar_t* function, const wchar_t* detail,
+                     const wchar_t* file) {
+    if (!made)
+        throw MVNK_Memory_Exception(PX_Code::No_Memory, function, detail, file);
+}

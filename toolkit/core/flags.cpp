@@ -20,7 +20,7 @@ void PX_Flags::set_flags(int value) {
 
 void PX_Flags::set_flags(const wchar_t* text) {
     const std::size_t length = text ? std::wcslen(text) : 0;
-    if (static_cast<std::size_t>(m_num_flags) == length && m_flags) {
+    if (length > 0 && static_cast<std::size_t>(m_num_flags) == length) {
         std::wmemmove(m_flags.get(), text, length);
         return;
     }

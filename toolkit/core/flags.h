@@ -12,7 +12,7 @@ struct PX_Ability_Value {
         Ability_Fixed = 1,            // put to its default by every policy but Keep_All
         Ability_Settable = 2,         // a user setting that validate_settable decides
         Ability_Conditional = 3,      // the only value that tells the policies 1, 2 and 3 apart
-        Ability_Settable_Listed = 4,  // as settable, with the default taken from the device's catalogue
+        Ability_Settable_Listed = 4,  // as settable; from here on a default is taken from the catalogue
         Ability_Required = 5,         // always validated, under every policy
     };
 };
@@ -55,7 +55,7 @@ public:
     }
 
 protected:
-    int get_flag(int index) const { return has_digit(index) ? m_flags.get()[index] - L'0' : 0; }
+    int get_flag(int index) const { return has_digit(index) ? value_of(m_flags.get()[index]) : 0; }
     void set_flag(int index, int value) {
         if (has_digit(index))
             m_flags.get()[index] = digit(value);
@@ -69,7 +69,9 @@ protected:
 
 private:
     bool has_digit(int index) const { return index >= 0 && index < m_num_flags; }
-    static wchar_t digit(int value) { return static_cast<wchar_t>(L'0' + value); }
+    // Any number goes in and comes out again; it wraps round at the ends.
+    static wchar_t digit(int value) { return static_cast<wchar_t>(L'0' + static_cast<unsigned int>(value)); }
+    static int value_of(wchar_t digit) { return static_cast<int>(static_cast<unsigned int>(digit) - L'0'); }
 
     int m_num_flags = 0;
     std::unique_ptr<wchar_t[]> m_flags;
@@ -107,6 +109,9 @@ public:
 
 // Four flags share a digit: flag n is bit n mod 4 of digit n / 4.
 class PX_EXPORT PX_Boolean_Flags : public PX_Flags {
+protected:
+    using PX_Flags::get_flags;
+
 public:
     using PX_Flags::PX_Flags;
 

@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <new>
 #include <utility>
 
 #include "toolkit/host/export.h"
@@ -17,7 +18,7 @@ inline std::uint32_t px_address_hash(const void* address) {
 // A chained hash table keyed by address. It grows when there are more entries than its threshold, to twice
 // the buckets; buckets are always a power of two.
 template <class Key, class Value>
-class PX_EXPORT PX_Hash_Table {
+class PX_TEMPLATE_EXPORT PX_Hash_Table {
 public:
     struct Entry {
         Key key;
@@ -84,7 +85,9 @@ private:
 
     void grow() {
         const int wanted = static_cast<int>(static_cast<float>(m_buckets) * m_grow);
-        auto wider = std::make_unique<Entry*[]>(static_cast<std::size_t>(wanted));
+        std::unique_ptr<Entry*[]> wider(new (std::nothrow) Entry* [static_cast<std::size_t>(wanted)] {});
+        if (!wider)
+            return;  // longer chains serve as well
         const auto mask = static_cast<std::uint32_t>(wanted - 1);
         for_each_entry([&](Entry* entry) {
             Entry*& head = wider[px_address_hash(entry->key) & mask];

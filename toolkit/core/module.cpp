@@ -2,35 +2,45 @@
 
 #include <algorithm>
 #include <array>
+#include <cassert>
+#include <cstddef>
+#include <utility>
+
+#include "toolkit/platform/platform.h"
 
 namespace {
 
-constexpr int most_per_step = 4;
+constexpr std::size_t most_per_step = 4;
 
 // Plain storage: a function may still be given while the process is going down.
 struct Step {
-    std::array<void (*)(), most_per_step> frees;
-    int count;
+    std::array<void (*)(bool), most_per_step> frees;
+    std::size_t count;
 };
 std::array<Step, px_exit_steps> steps;
 
-struct At_Unload {
-    ~At_Unload() { PX_Module_Exit(); }
-};
+void run_steps(bool unloading) {
+    for (auto& [frees, count] : steps) {
+        // A function may ask to be called at the next exit again.
+        const auto waiting = frees;
+        for (std::size_t left = std::exchange(count, 0); left > 0;)
+            waiting[--left](unloading);
+    }
+}
 
 }  // namespace
 
-void px_at_module_exit(PX_Exit_Step step, void (*free_it)()) {
-    static const At_Unload at_unload;
+void px_at_module_exit(PX_Exit_Step step, void (*free_it)(bool)) {
+    px_call_at_unload([] { run_steps(true); });
     auto& [frees, count] = steps[static_cast<std::size_t>(step)];
-    const auto end = frees.begin() + count;
-    if (std::find(frees.begin(), end, free_it) == end && count < most_per_step)
-        frees[static_cast<std::size_t>(count++)] = free_it;
+    const auto end = frees.begin() + static_cast<std::ptrdiff_t>(count);
+    if (std::find(frees.begin(), end, free_it) != end)
+        return;
+    assert(count < most_per_step);
+    if (count < most_per_step)
+        frees[count++] = free_it;
 }
 
 void PX_Module_Exit() {
-    for (auto& [frees, count] : steps) {
-        while (count > 0)
-            frees[static_cast<std::size_t>(--count)]();
-    }
+    run_steps(false);
 }

@@ -29,6 +29,13 @@ public:
     }
     void set_localized_name(const wchar_t* name) override { m_localized_name = name; }
 
+protected:
+    // The first thing that a clone copies.
+    void copy_names_to(Contract& new_one) const {
+        new_one.set_canonical_name(m_canonical_name);
+        new_one.set_localized_name(m_localized_name);
+    }
+
 private:
     PX_String m_canonical_name;
     PX_String m_localized_name;

@@ -9,8 +9,8 @@
 // A singly linked list of shared objects. A lookup that finds nothing gives a null pointer and throws
 // nothing.
 template <class T>
-class PX_EXPORT PX_Object_List : public PX_Object {
-    class PX_EXPORT Node : public PX_Object {
+class PX_TEMPLATE_EXPORT PX_Object_List : public PX_Object {
+    class PX_TEMPLATE_EXPORT Node : public PX_Object {
     public:
         explicit Node(PX_Smart_Pointer<T> element) : m_element(std::move(element)) {}
 
@@ -21,7 +21,7 @@ class PX_EXPORT PX_Object_List : public PX_Object {
 public:
     // A walk over the list from its head. The element that was just returned may be removed: keep it in a
     // counted pointer meanwhile.
-    class PX_EXPORT iterator : public PX_Object {
+    class PX_TEMPLATE_EXPORT iterator : public PX_Object {
     public:
         bool has_next() const { return m_current != nullptr; }
         // The current element, and on to the next one; null at the end.
@@ -96,6 +96,17 @@ public:
         return false;
     }
 
+    // Removes every element for which `condition(const T&)` is true. The others keep their order.
+    template <class Condition>
+    void remove_if(Condition condition) {
+        for (Node* node = m_head; node;) {
+            const PX_Smart_Pointer<T> element = node->m_element;
+            node = node->m_next;
+            if (element && condition(*element))
+                remove(element.get());
+        }
+    }
+
     void clear() {
         while (m_head) {
             Node* const gone = m_head;
@@ -132,14 +143,15 @@ private:
 
 // A list of objects that are found by their canonical name.
 template <class T>
-class PX_EXPORT PX_Named_Object_List : public PX_Object_List<T> {
+class PX_TEMPLATE_EXPORT PX_Named_Object_List : public PX_Object_List<T> {
 public:
     // The first element of that very name, case sensitive; null when there is none. A withdrawn entry is
     // found like any other. A null name is the empty one.
     PX_Smart_Pointer<T> find(const wchar_t* canonical_name) const {
         const wchar_t* const wanted = canonical_name ? canonical_name : L"";
         for (const auto& element : *this) {
-            if (element && std::wcscmp(element->get_canonical_name(), wanted) == 0)
+            const wchar_t* const name = element ? element->get_canonical_name() : nullptr;
+            if (name && std::wcscmp(name, wanted) == 0)
                 return element;
         }
         return this->null_element();

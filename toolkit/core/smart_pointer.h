@@ -1,6 +1,5 @@
 #pragma once
 
-#include <cstddef>
 #include <utility>
 
 #include "toolkit/core/sp_pool.h"
@@ -13,17 +12,17 @@
 // A new object has no count. Put it into a lasting counted pointer first: a temporary one made from it
 // deletes it when it goes.
 template <class T>
-class PX_EXPORT PX_Smart_Pointer {
+class PX_TEMPLATE_EXPORT PX_Smart_Pointer {
 public:
     PX_Smart_Pointer() = default;
-    PX_Smart_Pointer(std::nullptr_t) {}
     PX_Smart_Pointer(T* object) : m_object(object) { add(); }
     PX_Smart_Pointer(const PX_Smart_Pointer& other) : m_object(other.m_object) { add(); }
     PX_Smart_Pointer(PX_Smart_Pointer&& other) noexcept : m_object(std::exchange(other.m_object, nullptr)) {}
     ~PX_Smart_Pointer() { release(); }
 
-    // Every assignment releases the old object before it takes the new one. Assigning the very object that
-    // this pointer alone holds deletes it, and leaves the pointer null.
+    // Every assignment releases the old object before it takes the new one. So an object that only this
+    // pointer holds, or only the object that goes, is deleted when it is assigned, and the pointer is left
+    // null. Moving takes the new one over first.
     PX_Smart_Pointer& operator=(T* object) {
         T* const held = m_object;
         if (release() && object == held)
@@ -32,11 +31,14 @@ public:
         add();
         return *this;
     }
-    PX_Smart_Pointer& operator=(std::nullptr_t) {
-        release();
+    PX_Smart_Pointer& operator=(const PX_Smart_Pointer& other) {
+        T* object = other.m_object;
+        if (release() && object && SPMP()->get_count(address(object)) == -1)
+            object = nullptr;
+        m_object = object;
+        add();
         return *this;
     }
-    PX_Smart_Pointer& operator=(const PX_Smart_Pointer& other) { return *this = other.m_object; }
     PX_Smart_Pointer& operator=(PX_Smart_Pointer&& other) {
         T* const taken = std::exchange(other.m_object, nullptr);
         release();
@@ -53,14 +55,19 @@ public:
         return a.m_object == b.m_object;
     }
     friend bool operator==(const PX_Smart_Pointer& a, const T* b) { return a.m_object == b; }
-    friend bool operator==(const PX_Smart_Pointer& a, std::nullptr_t) { return !a.m_object; }
 
 private:
-    void* address() const { return const_cast<void*>(static_cast<const volatile void*>(m_object)); }
+    static void* address(T* object) { return const_cast<void*>(static_cast<const volatile void*>(object)); }
 
+    // An object that cannot be counted for want of memory is nobody's, and goes.
     void add() {
-        if (m_object)
-            SPMP()->add_reference(address());
+        try {
+            if (m_object)
+                SPMP()->add_reference(address(m_object));
+        } catch (...) {
+            delete std::exchange(m_object, nullptr);
+            throw;
+        }
     }
 
     // True when the object went with its last reference. The pointer is null before the object's destructor
@@ -68,9 +75,8 @@ private:
     bool release() {
         if (!m_object)
             return false;
-        void* const held = address();
         T* const object = std::exchange(m_object, nullptr);
-        if (SPMP()->release_reference(held) != 0)
+        if (SPMP()->release_reference(address(object)) != 0)
             return false;
         static_assert(sizeof(T) > 0, "include the contract of what a counted pointer deletes");
         delete object;

@@ -17,7 +17,12 @@ int PX_SPMem_Pool_Imp::add_reference(void* object) {
     void* const block = std::malloc(sizeof(smart_ptr_info_tag));
     if (!block)
         throw std::bad_alloc();
-    m_counts.insert(object, new (block) smart_ptr_info_tag{1});
+    try {
+        m_counts.insert(object, new (block) smart_ptr_info_tag{1});
+    } catch (...) {
+        std::free(block);
+        throw;
+    }
     return 1;
 }
 
@@ -38,14 +43,22 @@ int PX_SPMem_Pool_Imp::get_count(void* object) {
 }
 
 namespace {
-PX_SPMem_Pool* pool = nullptr;
+PX_SPMem_Pool_Imp* pool = nullptr;
+
+// A pool that still counts something goes only with the module: without its count, the next copy of a living
+// pointer would delete the object under the others.
+void delete_pool(bool unloading) {
+    if (!unloading && pool->table().count() > 0) {
+        px_at_module_exit(PX_Exit_Step::Pool, delete_pool);
+        return;
+    }
+    delete pool;
+    pool = nullptr;
+}
 
 PX_SPMem_Pool* make_pool() {
     pool = new PX_SPMem_Pool_Imp;
-    px_at_module_exit(PX_Exit_Step::Pool, [] {
-        delete pool;
-        pool = nullptr;
-    });
+    px_at_module_exit(PX_Exit_Step::Pool, delete_pool);
     return pool;
 }
 }  // namespace

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <cwchar>
 #include <string>
+#include <utility>
 
 #include "toolkit/platform/platform.h"
 
@@ -31,8 +32,13 @@ Std_Error_Handler::Std_Error_Handler(PX_Smart_Pointer<PX_Error_Handler> parent) 
     if (!parent)
         return;
     parent->add_child(this);
-    Std_Error_Handler::set_log_mode(parent->get_log_mode());
-    Std_Error_Handler::set_quiet_mode(parent->get_quiet_mode());
+    try {
+        Std_Error_Handler::set_log_mode(parent->get_log_mode());
+        Std_Error_Handler::set_quiet_mode(parent->get_quiet_mode());
+    } catch (...) {
+        leave(*parent, this);
+        throw;
+    }
 }
 
 Std_Error_Handler::~Std_Error_Handler() {
@@ -148,17 +154,19 @@ void Std_Error_Handler::terminal_error(unsigned long long module, unsigned int c
 }
 
 bool Std_Error_Handler::set_log_handle(const wchar_t* name) {
-    if (!m_log_stream) {
-        m_log_name = name;
-        return true;
-    }
-    if (m_log_name == name)
-        return true;
-    // The new name is not stored: logging stops until the next call.
-    if (std::fclose(std::exchange(m_log_stream, nullptr)) != 0)
+    try {
+        if (!m_log_stream) {
+            m_log_name = name;
+            return true;
+        }
+        if (m_log_name == name)
+            return true;
+        // The new name is not stored: logging stops until the next call.
+        m_log_name = nullptr;
+        return std::fclose(std::exchange(m_log_stream, nullptr)) == 0;
+    } catch (...) {
         return false;
-    m_log_name = nullptr;
-    return true;
+    }
 }
 
 void Std_Error_Handler::set_quiet_mode(bool quiet) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <new>
 
 #include "toolkit/host/export.h"
 
@@ -16,5 +17,9 @@ public:
     virtual ~PX_Object();
 
     static void* operator new(std::size_t size) noexcept;
+    static void* operator new(std::size_t size, const std::nothrow_t&) noexcept;
+    static void* operator new(std::size_t size, void* place) noexcept;
     static void operator delete(void* block) noexcept;
+    static void operator delete(void* block, const std::nothrow_t&) noexcept;
+    static void operator delete(void* block, void* place) noexcept;
 };

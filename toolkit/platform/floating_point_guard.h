@@ -13,4 +13,5 @@ public:
 
 private:
     unsigned int m_saved = 0;
+    bool m_is_saved;  // a word that could not be read is not written
 };

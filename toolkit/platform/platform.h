@@ -72,5 +72,7 @@ PX_EXPORT PX_Platform& PX_Get_Platform();
 // the machine's own back. The platform stays the caller's and outlives its use.
 PX_EXPORT PX_Platform* PX_Set_Platform(PX_Platform* platform);
 
-// The machine's own platform; each back end of the build defines it.
+// What each back end of the build defines: the machine's own platform, and the call that is made when the
+// toolkit's module is unloaded or the process ends, after the host's own objects are gone.
 PX_Platform& px_native_platform();
+void px_call_at_unload(void (*function)());

@@ -8,19 +8,20 @@
 
 // Wide text to UTF-8. What is no character, a lone surrogate or a value above 0x10FFFF, becomes U+FFFD.
 
-inline void px_append_utf8(std::string& bytes, char32_t c) {
+// Calls `put(char)` for every byte of the character.
+template <class Put>
+void px_put_utf8(char32_t c, Put& put) {
     if (c > 0x10FFFF || (c & 0xFFFFF800) == 0xD800)
         c = 0xFFFD;
     constexpr char32_t leads[] = {0x00, 0xC0, 0xE0, 0xF0};
     const int tails = c < 0x80 ? 0 : c < 0x800 ? 1 : c < 0x10000 ? 2 : 3;
-    bytes += static_cast<char>(leads[tails] | c >> (6 * tails));
+    put(static_cast<char>(leads[tails] | c >> (6 * tails)));
     for (int tail = tails - 1; tail >= 0; --tail)
-        bytes += static_cast<char>(0x80 | (c >> (6 * tail) & 0x3F));
+        put(static_cast<char>(0x80 | (c >> (6 * tail) & 0x3F)));
 }
 
-template <class Character>
-std::string px_encode_utf8(std::basic_string_view<Character> text) {
-    std::string bytes;
+template <class Character, class Put>
+void px_put_utf8(std::basic_string_view<Character> text, Put put) {
     for (std::size_t at = 0; at < text.size(); ++at) {
         char32_t c = static_cast<char32_t>(text[at]);
         // Characters of 16 bits are UTF-16 units; wider ones stand for themselves, surrogates too.
@@ -28,8 +29,14 @@ std::string px_encode_utf8(std::basic_string_view<Character> text) {
             if ((c & 0xFC00) == 0xD800 && at + 1 < text.size() && (text[at + 1] & 0xFC00) == 0xDC00)
                 c = 0x10000 + ((c & 0x3FF) << 10) + (text[++at] & 0x3FF);
         }
-        px_append_utf8(bytes, c);
+        px_put_utf8(c, put);
     }
+}
+
+template <class Character>
+std::string px_encode_utf8(std::basic_string_view<Character> text) {
+    std::string bytes;
+    px_put_utf8(text, [&](char byte) { bytes += byte; });
     return bytes;
 }
 
@@ -37,19 +44,21 @@ inline std::string px_to_utf8(std::wstring_view text) {
     return px_encode_utf8(text);
 }
 
-// WideCharToMultiByte of a machine whose code pages are all UTF-8. Nothing is written unless all of it fits.
+// WideCharToMultiByte of a machine whose code pages are all UTF-8. Nothing is written unless all of it fits,
+// and nothing is allocated: names of functions are encoded while an exception passes.
 inline int px_wide_char_to_utf8(const wchar_t* text, int length, char* bytes, int bytes_size) {
     if (!text || length == 0 || bytes_size < 0)
         return 0;
     const std::size_t characters = length < 0 ? std::wcslen(text) + 1 : static_cast<std::size_t>(length);
-    const std::string encoded = px_to_utf8({text, characters});
-    if (encoded.size() > INT_MAX)
+    const std::wstring_view view(text, characters);
+    std::size_t needed = 0;
+    px_put_utf8(view, [&](char) { ++needed; });
+    if (needed > INT_MAX)
         return 0;
-    const int needed = static_cast<int>(encoded.size());
-    if (bytes_size == 0)
-        return needed;
-    if (!bytes || needed > bytes_size)
-        return 0;
-    encoded.copy(bytes, encoded.size());
-    return needed;
+    if (bytes_size > 0) {
+        if (!bytes || needed > static_cast<std::size_t>(bytes_size))
+            return 0;
+        px_put_utf8(view, [&](char byte) { *bytes++ = byte; });
+    }
+    return static_cast<int>(needed);
 }

@@ -1,5 +1,7 @@
 #include "toolkit/marvcon/std_init_term_cfg/configuration.h"
 
+#include <cstdint>
+
 #include "toolkit/core/clone.h"
 
 using Datum = PX_InitTerm_Ability_Flags;
@@ -7,7 +9,7 @@ using Datum = PX_InitTerm_Ability_Flags;
 namespace {
 
 PX_Dev_String* from_bytes(const unsigned char* bytes, long length) {
-    return bytes && length > 0 ? new PX_Dev_String(bytes, length) : nullptr;
+    return bytes && static_cast<std::int32_t>(length) > 0 ? new PX_Dev_String(bytes, length) : nullptr;
 }
 
 PX_Dev_String* from_string(const PX_Dev_String* string) {
@@ -67,7 +69,7 @@ void PX_Std_InitTerm_Configuration::store(String& string, PX_Dev_String* new_one
 
 PX_InitTerm_Configuration* PX_Std_InitTerm_Configuration::clone() const {
     return px_clone<PX_Std_InitTerm_Configuration>(
-        L"PX_Std_InitTerm_Configuration::clone", std_init_term_cfg.file_tag, [this](auto& new_one) {
+        L"PX_Std_InitTerm_Configuration::clone", px_std_init_term_cfg_source.file_tag, [this](auto& new_one) {
             new_one.set_preinit_string(m_preinit_string.get());
             new_one.set_postinit_string(m_postinit_string.get());
             new_one.set_termination_string(m_termination_string.get());

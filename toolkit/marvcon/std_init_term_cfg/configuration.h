@@ -10,6 +10,9 @@ class PX_EXPORT PX_Std_InitTerm_Configuration
       public PX_Object {
 public:
     PX_Std_InitTerm_Configuration();
+    // A copy would share the strings: clone is the operation that copies.
+    PX_Std_InitTerm_Configuration(const PX_Std_InitTerm_Configuration&) = delete;
+    PX_Std_InitTerm_Configuration& operator=(const PX_Std_InitTerm_Configuration&) = delete;
 
     PX_Smart_Pointer<PX_Dev_String> get_preinit_string() const override;
     PX_Smart_Pointer<PX_Dev_String> get_postinit_string() const override;

@@ -6,9 +6,10 @@
 
 void PX_Dev_String::assign(const unsigned char* bytes, long length) {
     unsigned char* copy = nullptr;
-    std::int32_t copied = 0;
-    if (bytes && length > 0) {
-        copied = static_cast<std::int32_t>(length);
+    std::int32_t copied = bytes ? static_cast<std::int32_t>(length) : 0;
+    if (copied < 0)
+        copied = 0;
+    if (copied > 0) {
         copy = new unsigned char[static_cast<std::size_t>(copied)];
         std::copy_n(bytes, copied, copy);
     }

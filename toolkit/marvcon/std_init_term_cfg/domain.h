@@ -13,5 +13,5 @@ struct PX_InitTerm_Domain {
     static constexpr auto get_configuration = &PX_Plotter_Configuration::get_init_term_configuration;
     static constexpr const wchar_t* roots_missing = L"plotter_caps or plotter_cfg";
     static constexpr const wchar_t* domain_missing = L"initterm_caps or initterm_cfg";
-    static constexpr const wchar_t* file_tag = std_init_term_cfg.file_tag;
+    static constexpr const wchar_t* file_tag = px_std_init_term_cfg_source.file_tag;
 };

@@ -6,7 +6,7 @@
 #include "toolkit/marvcon/std_init_term_cfg/dev_string.h"
 #include "toolkit/marvcon/std_plval/interface.h"
 
-inline constexpr PX_Source std_init_term_cfg = PX_SOURCE(L"std_init_term_cfg");
+inline constexpr PX_Source px_std_init_term_cfg_source = PX_SOURCE(L"std_init_term_cfg");
 
 // The three byte strings that a driver sends to its device. The same numbers serve for abilities, owners and
 // the flags of the configuration.
@@ -18,7 +18,7 @@ struct PX_InitTerm_Ability_Flags {
         Termination_String = 2,  // sent at the end of the job
     };
     static constexpr PX_Flag_Range range{3, L"PX_InitTerm_Ability_Flags::Enum",
-                                         std_init_term_cfg.header_path};
+                                         px_std_init_term_cfg_source.header_path};
 };
 
 struct PX_InitTerm_UI_Owner_Flags {
@@ -29,7 +29,7 @@ struct PX_InitTerm_UI_Owner_Flags {
         Termination_String = 2,
     };
     static constexpr PX_Flag_Range range{3, L"PX_InitTerm_UI_Owner_Flags::Enum",
-                                         std_init_term_cfg.header_path};
+                                         px_std_init_term_cfg_source.header_path};
 };
 
 class PX_EXPORT PX_InitTerm_Abilities : public PX_Flag_Set<PX_Abilities, PX_InitTerm_Ability_Flags> {};

@@ -13,19 +13,19 @@ PX_Std_InitTerm_Validator::PX_Std_InitTerm_Validator(PX_Plotter_Definition* plot
 }
 
 void PX_Std_InitTerm_Validator::validate_preinit_string(PX_Validation_Strategy::Enum /*strategy*/) {
-    accept(Datum::Preinit_String);
+    mark_validated(Datum::Preinit_String);
 }
 
 void PX_Std_InitTerm_Validator::validate_postinit_string(PX_Validation_Strategy::Enum /*strategy*/) {
-    accept(Datum::Postinit_String);
+    mark_validated(Datum::Postinit_String);
 }
 
 void PX_Std_InitTerm_Validator::validate_termination_string(PX_Validation_Strategy::Enum /*strategy*/) {
-    accept(Datum::Termination_String);
+    mark_validated(Datum::Termination_String);
 }
 
 // Any bytes will do. All three operations report a failure under the name of the first.
-void PX_Std_InitTerm_Validator::accept(Datum::Enum datum) {
+void PX_Std_InitTerm_Validator::mark_validated(Datum::Enum datum) {
     px_domain_configuration<PX_InitTerm_Domain>(m_plotter,
                                                 L"PX_Std_InitTerm_Validator::validate_preinit_string")
         ->set_one_validated(true, datum);
@@ -48,21 +48,21 @@ void PX_Std_InitTerm_Validator::set_all_init_term_to_defaults() {
 }
 
 void PX_Std_InitTerm_Validator::set_preinit_string_to_default() {
-    empty(Datum::Preinit_String, &Configuration::set_preinit_string,
-          L"PX_Std_InitTerm_Validator::set_preinit_string_to_default");
+    set_to_empty(Datum::Preinit_String, &Configuration::set_preinit_string,
+                 L"PX_Std_InitTerm_Validator::set_preinit_string_to_default");
 }
 
 void PX_Std_InitTerm_Validator::set_postinit_string_to_default() {
-    empty(Datum::Postinit_String, &Configuration::set_postinit_string,
-          L"PX_Std_InitTerm_Validator::set_postinit_string_to_default");
+    set_to_empty(Datum::Postinit_String, &Configuration::set_postinit_string,
+                 L"PX_Std_InitTerm_Validator::set_postinit_string_to_default");
 }
 
 void PX_Std_InitTerm_Validator::set_termination_string_to_default() {
-    empty(Datum::Termination_String, &Configuration::set_termination_string,
-          L"PX_Std_InitTerm_Validator::set_termination_string_to_default");
+    set_to_empty(Datum::Termination_String, &Configuration::set_termination_string,
+                 L"PX_Std_InitTerm_Validator::set_termination_string_to_default");
 }
 
-void PX_Std_InitTerm_Validator::empty(Datum::Enum datum, Setter set_string, const wchar_t* function) {
+void PX_Std_InitTerm_Validator::set_to_empty(Datum::Enum datum, Setter set_string, const wchar_t* function) {
     const PX_Domain_Objects<PX_InitTerm_Domain> domain(m_plotter, function);
     if (domain.capabilities->get_one_ability(datum) > 0) {
         const PX_Dev_String nothing;

@@ -20,11 +20,12 @@ public:
     void set_postinit_string_to_default() override;
     void set_termination_string_to_default() override;
 
+protected:
+    PX_Plotter_Definition* m_plotter;
+
 private:
     using Setter = void (PX_InitTerm_Configuration::*)(const PX_Dev_String*);
 
-    void accept(PX_InitTerm_Ability_Flags::Enum datum);
-    void empty(PX_InitTerm_Ability_Flags::Enum datum, Setter set_string, const wchar_t* function);
-
-    PX_Plotter_Definition* m_plotter;
+    void mark_validated(PX_InitTerm_Ability_Flags::Enum datum);
+    void set_to_empty(PX_InitTerm_Ability_Flags::Enum datum, Setter set_string, const wchar_t* function);
 };

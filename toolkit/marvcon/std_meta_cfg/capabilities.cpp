@@ -1,28 +1,17 @@
 #include "toolkit/marvcon/std_meta_cfg/capabilities.h"
 
+#include <new>
+
 #include "toolkit/core/clone.h"
 #include "toolkit/marvcon/std_meta_cfg/catalogue.h"
 #include "toolkit/marvcon/std_meta_cfg/required_text.h"
 
 PX_Meta_Capabilities::~PX_Meta_Capabilities() = default;
 
-namespace {
-
-// A null object is 1101 as a null text is.
-template <class T>
-void require(const T* object, const wchar_t* function, const wchar_t* detail) {
-    if (!object)
-        throw MVNK_Memory_Exception(PX_Code::No_Memory, function, detail, std_meta_cfg.file_tag);
-}
-
-constexpr const wchar_t* constructor = L"PX_Std_Meta_Capabilities::PX_Std_Meta_Capabilities";
-
-}  // namespace
-
 PX_Std_Meta_Capabilities::PX_Std_Meta_Capabilities()
     : m_family(new PX_Std_Family), m_model(new PX_Std_Model) {
-    require(m_family.get(), constructor, L"family");
-    require(m_model.get(), constructor, L"new_model");
+    if (!m_family || !m_model)
+        throw std::bad_alloc();
 }
 
 const wchar_t* PX_Std_Meta_Capabilities::get_driver_pathname() const {
@@ -82,14 +71,14 @@ void PX_Std_Meta_Capabilities::set_toolkit_version(long version) {
 
 void PX_Std_Meta_Capabilities::set_family(const PX_Family* family) {
     constexpr const wchar_t* function = L"PX_Std_Meta_Capabilities::set_family";
-    require(family, function, L"family");
-    px_frame(function, [&] { m_family = family->clone(); });
+    px_require_made(family, function, L"family", px_std_meta_cfg_source.file_tag);
+    px_store_clone(m_family, family, function, L"family", px_std_meta_cfg_source.file_tag);
 }
 
 void PX_Std_Meta_Capabilities::set_model(const PX_Model* model) {
     constexpr const wchar_t* function = L"PX_Std_Meta_Capabilities::set_model";
-    require(model, function, L"new_model");
-    px_frame(function, [&] { m_model = model->clone(); });
+    px_require_made(model, function, L"new_model", px_std_meta_cfg_source.file_tag);
+    px_store_clone(m_model, model, function, L"new_model", px_std_meta_cfg_source.file_tag);
 }
 
 void PX_Std_Meta_Capabilities::set_driver_type(PX_Driver_Type::Enum type) {
@@ -105,8 +94,8 @@ void PX_Std_Meta_Capabilities::set_truetype_as_text(bool as_text) {
 }
 
 PX_Meta_Capabilities* PX_Std_Meta_Capabilities::clone() const {
-    return px_clone<PX_Std_Meta_Capabilities>(L"PX_Std_Meta_Capabilities::clone", std_meta_cfg.file_tag,
-                                              [this](auto& new_one) {
+    return px_clone<PX_Std_Meta_Capabilities>(L"PX_Std_Meta_Capabilities::clone",
+                                              px_std_meta_cfg_source.file_tag, [this](auto& new_one) {
                                                   new_one.set_driver_pathname(m_driver_pathname);
                                                   new_one.set_driver_version(m_driver_version);
                                                   new_one.set_driver_description(m_driver_description);

@@ -6,7 +6,7 @@
 
 class PX_EXPORT PX_Std_Meta_Capabilities : public PX_Meta_Capabilities, public PX_Object {
 public:
-    // No memory for the family or the model is MVNK_Memory_Exception 1101, detail "family" or "new_model".
+    // No memory for the family or the model is std::bad_alloc.
     PX_Std_Meta_Capabilities();
 
     const wchar_t* get_driver_pathname() const override;

@@ -9,7 +9,7 @@ class PX_EXPORT PX_Std_Caps_Name_List_Object
 public:
     static constexpr PX_Null_Name null_name{PX_Code::Null_Argument,
                                             L"PX_Std_Caps_Name_List_Object::set_canonical_name",
-                                            L"canonical_name", std_meta_cfg.file_tag};
+                                            L"canonical_name", px_std_meta_cfg_source.file_tag};
 
     PX_Caps_Name_List_Object* clone() const override;
 };
@@ -17,7 +17,7 @@ public:
 class PX_EXPORT PX_Std_Family : public PX_Named_Pair<PX_Family, PX_Std_Family> {
 public:
     static constexpr PX_Null_Name null_name{901, L"PX_Std_Family::set_canonical_name", L"canonical_name",
-                                            std_meta_cfg.file_tag};
+                                            px_std_meta_cfg_source.file_tag};
 
     void supports_user_defined_model(bool supported) override;
     bool supports_user_defined_model() const override;
@@ -31,7 +31,7 @@ class PX_EXPORT PX_Std_Model
     : public PX_Named_Pair<PX_Ability_Accessors<PX_Model, PX_Model_Ability>, PX_Std_Model> {
 public:
     static constexpr PX_Null_Name null_name{902, L"PX_Std_Model::set_canonical_name", L"canonical_name",
-                                            std_meta_cfg.file_tag};
+                                            px_std_meta_cfg_source.file_tag};
 
     const wchar_t* get_user_defined_model_pathname() const override;
     const wchar_t* get_user_defined_model_basename() const override;

@@ -5,7 +5,7 @@
 #include "toolkit/core/flags.h"
 #include "toolkit/core/smart_pointer.h"
 
-inline constexpr PX_Source std_meta_cfg = PX_SOURCE(L"std_meta_cfg");
+inline constexpr PX_Source px_std_meta_cfg_source = PX_SOURCE(L"std_meta_cfg");
 
 // The twelve abilities of a model. Drivers and host agree on what each stands for; the toolkit attaches no
 // meaning to them.
@@ -25,7 +25,7 @@ struct PX_Model_Ability_Flags {
         Model_Ability_10 = 10,
         Model_Ability_11 = 11,
     };
-    static constexpr PX_Flag_Range range{12, L"PX_Model_Ability_Flags::Enum", std_meta_cfg.header_path};
+    static constexpr PX_Flag_Range range{12, L"PX_Model_Ability_Flags::Enum", px_std_meta_cfg_source.header_path};
 };
 
 class PX_EXPORT PX_Model_Ability : public PX_Flag_Set<PX_Abilities, PX_Model_Ability_Flags> {};

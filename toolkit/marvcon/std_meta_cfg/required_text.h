@@ -7,7 +7,6 @@
 // stays. Hosts know it so.
 inline void px_store_required_text(PX_String& field, const wchar_t* text, const wchar_t* function,
                                    const wchar_t* detail) {
-    if (!text)
-        throw MVNK_Memory_Exception(PX_Code::No_Memory, function, detail, std_meta_cfg.file_tag);
+    px_require_made(text, function, detail, px_std_meta_cfg_source.file_tag);
     field = text;
 }

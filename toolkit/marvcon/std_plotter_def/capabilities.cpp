@@ -6,11 +6,10 @@
 
 namespace {
 
-constexpr PX_Source source = PX_SOURCE(L"std_plotter_def");
-
 template <class Domain>
 void store(PX_Smart_Pointer<Domain>& field, const Domain* capabilities, const wchar_t* function) {
-    px_store_clone(field, capabilities, function, L"capabilities", source.file_tag);
+    px_require_argument(capabilities, function, L"capabilities", px_std_plotter_def_source.file_tag);
+    px_store_clone(field, capabilities, function, L"capabilities", px_std_plotter_def_source.file_tag);
 }
 
 }  // namespace
@@ -88,7 +87,7 @@ void PX_Std_Plotter_Capabilities::set_custom_capabilities(const PX_Custom_Capabi
 
 PX_Plotter_Capabilities* PX_Std_Plotter_Capabilities::clone() const {
     return px_clone<PX_Std_Plotter_Capabilities>(
-        L"PX_Std_Plotter_Capabilities::clone", source.file_tag, [this](auto& new_one) {
+        L"PX_Std_Plotter_Capabilities::clone", px_std_plotter_def_source.file_tag, [this](auto& new_one) {
             new_one.set_media_capabilities(m_media.get());
             new_one.set_io_capabilities(m_io.get());
             new_one.set_phys_pen_capabilities(m_phys_pen.get());

@@ -1,5 +1,6 @@
 #include "toolkit/marvcon/std_plotter_def/class_factory.h"
 
+#include <new>
 #include <utility>
 
 #include "toolkit/marvcon/std_init_term_cfg/capabilities.h"
@@ -13,6 +14,20 @@
 #include "toolkit/marvcon/std_plotter_def/shoebox.h"
 #include "toolkit/marvcon/std_plval/validator.h"
 
+namespace {
+
+// No memory, for the object or for what its constructor makes, is null.
+template <class Standard, class... Arguments>
+Standard* create(Arguments&&... arguments) {
+    try {
+        return new Standard(std::forward<Arguments>(arguments)...);
+    } catch (const std::bad_alloc&) {
+        return nullptr;
+    }
+}
+
+}  // namespace
+
 PX_Plotter_Class_Factory::~PX_Plotter_Class_Factory() = default;
 
 PX_Caps_Loader* PX_Std_Plotter_Class_Factory::MK_Create_Caps_Loader(
@@ -21,90 +36,91 @@ PX_Caps_Loader* PX_Std_Plotter_Class_Factory::MK_Create_Caps_Loader(
 }
 
 PX_InitTerm_Capabilities* PX_Std_Plotter_Class_Factory::MK_Create_InitTerm_Capabilities() const {
-    return new PX_Std_InitTerm_Capabilities;
+    return create<PX_Std_InitTerm_Capabilities>();
 }
 
 PX_InitTerm_Configuration* PX_Std_Plotter_Class_Factory::MK_Create_InitTerm_Configuration() const {
-    return new PX_Std_InitTerm_Configuration;
+    return create<PX_Std_InitTerm_Configuration>();
 }
 
 PX_InitTerm_Validator* PX_Std_Plotter_Class_Factory::MK_Create_InitTerm_Validator(
     PX_Plotter_Definition* plotter) const {
-    return new PX_Std_InitTerm_Validator(plotter);
+    return create<PX_Std_InitTerm_Validator>(plotter);
 }
 
 PX_Searchable_Atomic_Object_List<PX_Parity::Enum>* PX_Std_Plotter_Class_Factory::MK_Create_Parity_List()
     const {
-    return new PX_Searchable_Atomic_Object_List<PX_Parity::Enum>;
+    return create<PX_Searchable_Atomic_Object_List<PX_Parity::Enum>>();
 }
 
 PX_Searchable_Atomic_Object_List<PX_Handshake::Enum>* PX_Std_Plotter_Class_Factory::MK_Create_Handshake_List()
     const {
-    return new PX_Searchable_Atomic_Object_List<PX_Handshake::Enum>;
+    return create<PX_Searchable_Atomic_Object_List<PX_Handshake::Enum>>();
 }
 
 PX_Caps_Name_List_Object* PX_Std_Plotter_Class_Factory::MK_Create_Media_Size_In_Source() const {
-    return new PX_Std_Caps_Name_List_Object;
+    return create<PX_Std_Caps_Name_List_Object>();
 }
 
 PX_Named_Object_List<PX_Caps_Name_List_Object>* PX_Std_Plotter_Class_Factory::MK_Create_Media_Size_Name_List()
     const {
-    return new PX_Named_Object_List<PX_Caps_Name_List_Object>;
+    return create<PX_Named_Object_List<PX_Caps_Name_List_Object>>();
 }
 
 PX_Model* PX_Std_Plotter_Class_Factory::MK_Create_Model() const {
-    return new PX_Std_Model;
+    return create<PX_Std_Model>();
 }
 
 PX_Named_Object_List<PX_Model>* PX_Std_Plotter_Class_Factory::MK_Create_Model_List() const {
-    return new PX_Named_Object_List<PX_Model>;
+    return create<PX_Named_Object_List<PX_Model>>();
 }
 
 PX_Family* PX_Std_Plotter_Class_Factory::MK_Create_Family() const {
-    return new PX_Std_Family;
+    return create<PX_Std_Family>();
 }
 
 PX_Named_Object_List<PX_Family>* PX_Std_Plotter_Class_Factory::MK_Create_Family_List() const {
-    return new PX_Named_Object_List<PX_Family>;
+    return create<PX_Named_Object_List<PX_Family>>();
 }
 
 PX_Meta_Capabilities* PX_Std_Plotter_Class_Factory::MK_Create_Meta_Capabilities() const {
-    return new PX_Std_Meta_Capabilities;
+    return create<PX_Std_Meta_Capabilities>();
 }
 
 PX_Plotter_Validator* PX_Std_Plotter_Class_Factory::MK_Create_Plotter_Validator(
     PX_Plotter_Definition* plotter) const {
-    return new PX_Std_Plotter_Validator(plotter);
+    return create<PX_Std_Plotter_Validator>(plotter);
 }
 
-PX_Plotter_Capabilities* PX_Std_Plotter_Class_Factory::MK_Create_Plotter_Capabilities(
-    const wchar_t* /*maker*/, const wchar_t* /*family*/, const wchar_t* /*model*/) const {
-    return new PX_Std_Plotter_Capabilities;
+PX_Plotter_Capabilities* PX_Std_Plotter_Class_Factory::MK_Create_Plotter_Capabilities(const wchar_t*,
+                                                                                      const wchar_t*,
+                                                                                      const wchar_t*) const {
+    return create<PX_Std_Plotter_Capabilities>();
 }
 
 PX_Caps_Name_List_Object* PX_Std_Plotter_Class_Factory::MK_Create_Caps_Name_List_Object() const {
-    return new PX_Std_Caps_Name_List_Object;
+    return create<PX_Std_Caps_Name_List_Object>();
 }
 
 PX_Named_Object_List<PX_Caps_Name_List_Object>* PX_Std_Plotter_Class_Factory::MK_Create_Caps_Name_List()
     const {
-    return new PX_Named_Object_List<PX_Caps_Name_List_Object>;
+    return create<PX_Named_Object_List<PX_Caps_Name_List_Object>>();
 }
 
 PX_Plotter_Configuration* PX_Std_Plotter_Class_Factory::MK_Create_Plotter_Configuration(
-    const wchar_t* /*maker*/, const wchar_t* /*family*/, const wchar_t* /*model*/) const {
-    return new PX_Std_Plotter_Configuration;
+    const wchar_t*, const wchar_t*, const wchar_t*) const {
+    return create<PX_Std_Plotter_Configuration>();
 }
 
 PX_Plotter_Definition* PX_Std_Plotter_Class_Factory::MK_Create_Plotter_Definition(
     PX_Smart_Pointer<PX_Error_Handler> handler) const {
-    return new PX_Std_Plotter_Definition(std::move(handler));
+    return create<PX_Std_Plotter_Definition>(std::move(handler));
 }
 
 PX_Shoebox* PX_Std_Plotter_Class_Factory::MK_Create_Shoebox() const {
-    return new PX_Std_Shoebox;
+    return create<PX_Std_Shoebox>();
 }
 
 PX_Kestrane_Shoebox* PX_Std_Plotter_Class_Factory::MK_Create_Kestrane_Shoebox() const {
-    return new PX_Std_Kestrane_Shoebox;
+    return create<PX_Std_Kestrane_Shoebox>();
 }

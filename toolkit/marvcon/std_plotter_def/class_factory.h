@@ -111,12 +111,12 @@ public:
 
     // The plotter itself
     PX_Plotter_Validator* MK_Create_Plotter_Validator(PX_Plotter_Definition* plotter) const override;
-    PX_Plotter_Capabilities* MK_Create_Plotter_Capabilities(const wchar_t* maker, const wchar_t* family,
-                                                            const wchar_t* model) const override;
+    PX_Plotter_Capabilities* MK_Create_Plotter_Capabilities(const wchar_t*, const wchar_t*,
+                                                            const wchar_t*) const override;
     PX_Caps_Name_List_Object* MK_Create_Caps_Name_List_Object() const override;
     PX_Named_Object_List<PX_Caps_Name_List_Object>* MK_Create_Caps_Name_List() const override;
-    PX_Plotter_Configuration* MK_Create_Plotter_Configuration(const wchar_t* maker, const wchar_t* family,
-                                                              const wchar_t* model) const override;
+    PX_Plotter_Configuration* MK_Create_Plotter_Configuration(const wchar_t*, const wchar_t*,
+                                                              const wchar_t*) const override;
     PX_Plotter_Definition* MK_Create_Plotter_Definition(
         PX_Smart_Pointer<PX_Error_Handler> handler) const override;
     PX_Shoebox* MK_Create_Shoebox() const override;

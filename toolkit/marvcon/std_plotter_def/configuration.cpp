@@ -6,11 +6,10 @@
 
 namespace {
 
-constexpr PX_Source source = PX_SOURCE(L"std_plotter_def");
-
 template <class Domain>
 void store(PX_Smart_Pointer<Domain>& field, const Domain* configuration, const wchar_t* function) {
-    px_store_clone(field, configuration, function, L"configuration", source.file_tag);
+    px_require_argument(configuration, function, L"configuration", px_std_plotter_def_source.file_tag);
+    px_store_clone(field, configuration, function, L"configuration", px_std_plotter_def_source.file_tag);
 }
 
 }  // namespace
@@ -87,7 +86,7 @@ void PX_Std_Plotter_Configuration::set_custom_configuration(const PX_Custom_Conf
 
 PX_Plotter_Configuration* PX_Std_Plotter_Configuration::clone() const {
     return px_clone<PX_Std_Plotter_Configuration>(
-        L"PX_Std_Plotter_Configuration::clone", source.file_tag, [this](auto& new_one) {
+        L"PX_Std_Plotter_Configuration::clone", px_std_plotter_def_source.file_tag, [this](auto& new_one) {
             new_one.set_media_configuration(m_media.get());
             new_one.set_io_configuration(m_io.get());
             new_one.set_res_color_mem_configuration(m_res_color_mem.get());

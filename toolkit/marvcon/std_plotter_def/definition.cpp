@@ -6,28 +6,19 @@
 #include "toolkit/marvcon/std_plval/validator.h"
 
 namespace {
-
-constexpr PX_Source source = PX_SOURCE(L"std_plotter_def");
-
-template <class T>
-void require(const PX_Smart_Pointer<T>& made, const wchar_t* detail) {
-    if (!made)
-        throw MVNK_Memory_Exception(PX_Code::No_Memory,
-                                    L"PX_Std_Plotter_Definition::PX_Std_Plotter_Definition", detail,
-                                    source.file_tag);
+constexpr const wchar_t* constructor = L"PX_Std_Plotter_Definition::PX_Std_Plotter_Definition";
 }
-
-}  // namespace
 
 PX_Plotter_Definition::~PX_Plotter_Definition() = default;
 
 PX_Std_Plotter_Definition::PX_Std_Plotter_Definition(PX_Smart_Pointer<PX_Error_Handler> handler)
     : m_error_handler(std::move(handler)) {
     m_class_factory = new PX_Std_Plotter_Class_Factory;
-    require(m_class_factory, L"m_class_factory");
+    px_require_made(m_class_factory, constructor, L"m_class_factory", px_std_plotter_def_source.file_tag);
     // Asks this definition for the factory, which is why that comes first.
     m_plotter_validator = new PX_Std_Plotter_Validator(this);
-    require(m_plotter_validator, L"m_plotter_validator");
+    px_require_made(m_plotter_validator, constructor, L"m_plotter_validator",
+                    px_std_plotter_def_source.file_tag);
 }
 
 PX_Std_Plotter_Definition::~PX_Std_Plotter_Definition() = default;
@@ -81,8 +72,10 @@ void PX_Std_Plotter_Definition::set_plotter_configuration(PX_Plotter_Configurati
 }
 
 void PX_Std_Plotter_Definition::set_shoebox(const PX_Shoebox* shoebox) {
+    px_require_argument(shoebox, L"PX_Std_Plotter_Definition::set_shoebox", L"shoebox",
+                        px_std_plotter_def_source.file_tag);
     px_store_clone(m_shoebox, shoebox, L"PX_Std_Plotter_Definition::set_shoebox", L"shoebox",
-                   source.file_tag);
+                   px_std_plotter_def_source.file_tag);
 }
 
 bool PX_Std_Plotter_Definition::CustomConfigure(HWND /*owner*/) {

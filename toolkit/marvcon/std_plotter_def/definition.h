@@ -11,6 +11,9 @@ public:
     // What the validator's constructor throws goes out as it is. No memory is MVNK_Memory_Exception 1101,
     // detail "m_class_factory" or "m_plotter_validator".
     explicit PX_Std_Plotter_Definition(PX_Smart_Pointer<PX_Error_Handler> handler);
+    // A copy would share the validator, which points back here.
+    PX_Std_Plotter_Definition(const PX_Std_Plotter_Definition&) = delete;
+    PX_Std_Plotter_Definition& operator=(const PX_Std_Plotter_Definition&) = delete;
     ~PX_Std_Plotter_Definition() override;
 
     PX_Smart_Pointer<PX_Meta_Capabilities> get_meta_capabilities() const override;
@@ -30,10 +33,10 @@ public:
 
     bool CustomConfigure(HWND owner) override;
     bool Custom_Config_UI_Available() override;
-    bool DevmodeConfigure(const DEVMODEW* mode, bool apply) override;
+    bool DevmodeConfigure(const DEVMODEW*, bool) override;
     bool LongplotUI() override;
     bool Longplot_UI_Available() override;
-    bool get_driver_hints_helpfile(PX_String& file, PX_String& topic) override;
+    bool get_driver_hints_helpfile(PX_String&, PX_String&) override;
     bool get_true_device_colors(PX_Smart_Pointer<PX_Palette> palette) const override;
 
 protected:

@@ -67,7 +67,8 @@ class PX_String_Custom_Data;
 // it overrides a creator.
 //
 // The result is the caller's and has no reference yet: it goes into a PX_Smart_Pointer at once. Lists are
-// made empty. No memory gives null, and the caller decides.
+// made empty. No memory gives null, and the caller decides; what a definition's constructor
+// throws goes out.
 class PX_EXPORT PX_Plotter_Class_Factory {
 public:
     virtual ~PX_Plotter_Class_Factory();
@@ -179,14 +180,12 @@ public:
 
     // The plotter itself
     virtual PX_Plotter_Validator* MK_Create_Plotter_Validator(PX_Plotter_Definition* plotter) const = 0;
-    virtual PX_Plotter_Capabilities* MK_Create_Plotter_Capabilities(const wchar_t* maker,
-                                                                    const wchar_t* family,
-                                                                    const wchar_t* model) const = 0;
+    virtual PX_Plotter_Capabilities* MK_Create_Plotter_Capabilities(const wchar_t*, const wchar_t*,
+                                                                    const wchar_t*) const = 0;
     virtual PX_Caps_Name_List_Object* MK_Create_Caps_Name_List_Object() const = 0;
     virtual PX_Named_Object_List<PX_Caps_Name_List_Object>* MK_Create_Caps_Name_List() const = 0;
-    virtual PX_Plotter_Configuration* MK_Create_Plotter_Configuration(const wchar_t* maker,
-                                                                      const wchar_t* family,
-                                                                      const wchar_t* model) const = 0;
+    virtual PX_Plotter_Configuration* MK_Create_Plotter_Configuration(const wchar_t*, const wchar_t*,
+                                                                      const wchar_t*) const = 0;
     virtual PX_Plotter_Definition* MK_Create_Plotter_Definition(
         PX_Smart_Pointer<PX_Error_Handler> handler) const = 0;
     virtual PX_Shoebox* MK_Create_Shoebox() const = 0;

@@ -1,10 +1,13 @@
 #pragma once
 
 #include "toolkit/core/error_handler.h"
+#include "toolkit/core/exception.h"
 #include "toolkit/core/smart_pointer.h"
 #include "toolkit/host/palette.h"
 #include "toolkit/host/string.h"
 #include "toolkit/platform/win_types.h"
+
+inline constexpr PX_Source px_std_plotter_def_source = PX_SOURCE(L"std_plotter_def");
 
 class PX_Custom_Capabilities;
 class PX_Custom_Configurations;
@@ -49,7 +52,8 @@ public:
     virtual void set_init_term_capabilities(const PX_InitTerm_Capabilities* capabilities) = 0;
     virtual void set_custom_capabilities(const PX_Custom_Capabilities* capabilities) = 0;
 
-    // Every domain is cloned once. The root is whole by then: a domain that was not set is MVNK_Error 1103.
+    // Every domain is cloned once. The root is whole by then: a domain that was not set is 1103, as a plain
+    // PX_Exception.
     virtual PX_Plotter_Capabilities* clone() const = 0;
 };
 
@@ -76,7 +80,8 @@ public:
     virtual void set_phys_pen_configuration(const PX_PhysPen_Configuration* configuration) = 0;
     virtual void set_custom_configuration(const PX_Custom_Configurations* configuration) = 0;
 
-    // Every domain is cloned once. The root is whole by then: a domain that was not set is MVNK_Error 1103.
+    // Every domain is cloned once. The root is whole by then: a domain that was not set is 1103, as a plain
+    // PX_Exception.
     virtual PX_Plotter_Configuration* clone() const = 0;
 };
 
@@ -160,10 +165,10 @@ public:
     // A driver's own user interface. False: the driver has none, or nothing was changed.
     virtual bool CustomConfigure(HWND owner) = 0;
     virtual bool Custom_Config_UI_Available() = 0;
-    virtual bool DevmodeConfigure(const DEVMODEW* mode, bool apply) = 0;
+    virtual bool DevmodeConfigure(const DEVMODEW*, bool) = 0;
     virtual bool LongplotUI() = 0;
     virtual bool Longplot_UI_Available() = 0;
-    virtual bool get_driver_hints_helpfile(PX_String& file, PX_String& topic) = 0;
+    virtual bool get_driver_hints_helpfile(PX_String&, PX_String&) = 0;
 
     // Fills the palette with the colours that the device shows in truth; false when it cannot tell.
     virtual bool get_true_device_colors(PX_Smart_Pointer<PX_Palette> palette) const = 0;

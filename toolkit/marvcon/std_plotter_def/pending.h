@@ -8,10 +8,18 @@
 // here only what the frame itself calls; the domain takes its lines away when it brings its own contracts,
 // its creators and its rows of the walk.
 
-// The domains whose validator may be missing from a definition.
-inline constexpr long px_pending_domains = PX_Domain_Mask::IO | PX_Domain_Mask::Media |
-                                           PX_Domain_Mask::Custom | PX_Domain_Mask::Res_Color_Mem |
-                                           PX_Domain_Mask::Phys_Pens;
+// Whether a definition may do without this domain's validator.
+constexpr bool px_is_pending(PX_Domain_Mask::Enum domain) {
+    return domain != PX_Domain_Mask::Init_Term;
+}
+
+// Calls a domain validator's operation, where the domain is there.
+template <class Validator, class... Arguments>
+void px_call_if_built(const PX_Smart_Pointer<Validator>& validator,
+                      void (Validator::*operation)(Arguments...), Arguments... arguments) {
+    if (validator)
+        ((*validator).*operation)(arguments...);
+}
 
 template <class Self>
 class PX_Pending_Capabilities {

@@ -1,10 +1,10 @@
 #include "toolkit/marvcon/std_plotter_def/shoebox.h"
 
+#include <new>
+
 #include "toolkit/core/clone.h"
 
 namespace {
-
-constexpr PX_Source source = PX_SOURCE(L"std_plotter_def");
 
 void store_unless_null(PX_String& field, const wchar_t* text) {
     if (text)
@@ -66,8 +66,8 @@ void PX_Std_Kestrane_Shoebox::set_plot_progress_ptr(PlotProgressDialog* progress
 }
 
 PX_Kestrane_Shoebox* PX_Std_Kestrane_Shoebox::clone() const {
-    return px_clone<PX_Std_Kestrane_Shoebox>(L"PX_Std_Kestrane_Shoebox::clone", source.file_tag,
-                                             [this](auto& new_one) {
+    return px_clone<PX_Std_Kestrane_Shoebox>(L"PX_Std_Kestrane_Shoebox::clone",
+                                             px_std_plotter_def_source.file_tag, [this](auto& new_one) {
                                                  new_one.set_plot_to_file_pathname(m_plot_to_file_pathname);
                                                  new_one.set_spool_announce(m_spool_announce);
                                                  new_one.set_drawing_name(m_drawing_name);
@@ -79,8 +79,7 @@ PX_Kestrane_Shoebox* PX_Std_Kestrane_Shoebox::clone() const {
 
 PX_Std_Shoebox::PX_Std_Shoebox() : m_kest_shoebox(new PX_Std_Kestrane_Shoebox) {
     if (!m_kest_shoebox)
-        throw MVNK_Memory_Exception(PX_Code::No_Memory, L"PX_Std_Shoebox::PX_Std_Shoebox", L"m_kest_shoebox",
-                                    source.file_tag);
+        throw std::bad_alloc();
 }
 
 PX_Smart_Pointer<PX_Kestrane_Shoebox> PX_Std_Shoebox::get_kest_shoebox() const {
@@ -96,7 +95,10 @@ bool PX_Std_Shoebox::get_trap_ARI() const {
 }
 
 void PX_Std_Shoebox::set_kest_shoebox(const PX_Kestrane_Shoebox* shoebox) {
-    px_store_clone(m_kest_shoebox, shoebox, L"PX_Std_Shoebox::set_kest_shoebox", L"shoebox", source.file_tag);
+    px_require_argument(shoebox, L"PX_Std_Shoebox::set_kest_shoebox", L"shoebox",
+                        px_std_plotter_def_source.file_tag);
+    px_store_clone(m_kest_shoebox, shoebox, L"PX_Std_Shoebox::set_kest_shoebox", L"shoebox",
+                   px_std_plotter_def_source.file_tag);
 }
 
 void PX_Std_Shoebox::set_buffer_io(bool buffer) {
@@ -108,9 +110,10 @@ void PX_Std_Shoebox::set_trap_ARI(bool trap) {
 }
 
 PX_Shoebox* PX_Std_Shoebox::clone() const {
-    return px_clone<PX_Std_Shoebox>(L"PX_Std_Shoebox::clone", source.file_tag, [this](auto& new_one) {
-        new_one.set_kest_shoebox(m_kest_shoebox.get());
-        new_one.set_buffer_io(m_buffer_io);
-        new_one.set_trap_ARI(m_trap_ARI);
-    });
+    return px_clone<PX_Std_Shoebox>(L"PX_Std_Shoebox::clone", px_std_plotter_def_source.file_tag,
+                                    [this](auto& new_one) {
+                                        new_one.set_kest_shoebox(m_kest_shoebox.get());
+                                        new_one.set_buffer_io(m_buffer_io);
+                                        new_one.set_trap_ARI(m_trap_ARI);
+                                    });
 }

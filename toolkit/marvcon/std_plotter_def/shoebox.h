@@ -33,7 +33,7 @@ private:
 // A new one holds an empty host shoebox, buffers, and traps abort, retry and ignore.
 class PX_EXPORT PX_Std_Shoebox : public PX_Shoebox, public PX_Object {
 public:
-    // No memory for the host shoebox is MVNK_Memory_Exception 1101, detail "m_kest_shoebox".
+    // No memory for the host shoebox is std::bad_alloc.
     PX_Std_Shoebox();
 
     PX_Smart_Pointer<PX_Kestrane_Shoebox> get_kest_shoebox() const override;

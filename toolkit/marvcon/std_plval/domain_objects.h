@@ -12,9 +12,14 @@
 //
 // A missing root or domain object is MVNK_Error 1103 with those words as detail.
 
-template <class Domain>
-[[noreturn]] void px_throw_missing(const wchar_t* function, const wchar_t* words) {
-    throw MVNK_Error(PX_Code::Null_Argument, function, words, Domain::file_tag);
+// One of the two objects, under its root.
+template <class Domain, class Root, class Object>
+PX_Smart_Pointer<Object> px_domain_object(const PX_Smart_Pointer<Root>& root,
+                                          PX_Smart_Pointer<Object> (Root::*get)() const,
+                                          const wchar_t* function) {
+    auto object = ((*root).*get)();
+    px_require_argument(object, function, Domain::domain_missing, Domain::file_tag);
+    return object;
 }
 
 // The configuration alone, for an operation that asks nothing of the device.
@@ -22,28 +27,25 @@ template <class Domain>
 PX_Smart_Pointer<typename Domain::Configuration> px_domain_configuration(const PX_Plotter_Definition* plotter,
                                                                          const wchar_t* function) {
     const auto root = plotter ? plotter->get_plotter_configuration() : nullptr;
-    if (!root)
-        px_throw_missing<Domain>(function, Domain::roots_missing);
-    auto configuration = ((*root).*Domain::get_configuration)();
-    if (!configuration)
-        px_throw_missing<Domain>(function, Domain::domain_missing);
-    return configuration;
+    px_require_argument(root, function, Domain::roots_missing, Domain::file_tag);
+    return px_domain_object<Domain>(root, Domain::get_configuration, function);
 }
 
-// Capabilities and configuration of a domain.
+// Capabilities and configuration of a domain. The roots are held as long: a driver may put others into its
+// definition meanwhile.
 template <class Domain>
 struct PX_Domain_Objects {
-    PX_Domain_Objects(const PX_Plotter_Definition* plotter, const wchar_t* function) {
-        const auto capabilities_root = plotter ? plotter->get_plotter_capabilities() : nullptr;
-        const auto configuration_root = plotter ? plotter->get_plotter_configuration() : nullptr;
-        if (!capabilities_root || !configuration_root)
-            px_throw_missing<Domain>(function, Domain::roots_missing);
-        capabilities = ((*capabilities_root).*Domain::get_capabilities)();
-        configuration = ((*configuration_root).*Domain::get_configuration)();
-        if (!capabilities || !configuration)
-            px_throw_missing<Domain>(function, Domain::domain_missing);
+    PX_Domain_Objects(const PX_Plotter_Definition* plotter, const wchar_t* function)
+        : capabilities_root(plotter ? plotter->get_plotter_capabilities() : nullptr),
+          configuration_root(plotter ? plotter->get_plotter_configuration() : nullptr) {
+        px_require_argument(capabilities_root && configuration_root, function, Domain::roots_missing,
+                            Domain::file_tag);
+        capabilities = px_domain_object<Domain>(capabilities_root, Domain::get_capabilities, function);
+        configuration = px_domain_object<Domain>(configuration_root, Domain::get_configuration, function);
     }
 
+    PX_Smart_Pointer<PX_Plotter_Capabilities> capabilities_root;
+    PX_Smart_Pointer<PX_Plotter_Configuration> configuration_root;
     PX_Smart_Pointer<typename Domain::Capabilities> capabilities;
     PX_Smart_Pointer<typename Domain::Configuration> configuration;
 };

@@ -1,7 +1,10 @@
 #pragma once
 
+#include "toolkit/core/exception.h"
 #include "toolkit/core/flags.h"
 #include "toolkit/core/smart_pointer.h"
+
+inline constexpr PX_Source px_std_plval_source = PX_SOURCE(L"std_plval");
 
 // What a validate_xxx does with a datum that fails.
 struct PX_Validation_Strategy {

@@ -5,7 +5,6 @@
 
 namespace {
 
-constexpr PX_Source source = PX_SOURCE(L"std_plval");
 constexpr const wchar_t* constructor = L"PX_Std_Plotter_Validator::PX_Std_Plotter_Validator";
 
 // The bit of a domain in a mask, if anything changed there.
@@ -13,60 +12,38 @@ long domain_bit(long changes, PX_Domain_Mask::Enum domain) {
     return changes ? long{domain} : 0L;
 }
 
-// Makes a domain validator into its member; a domain that is still to come may have none.
-template <class Validator>
-void make(PX_Smart_Pointer<Validator>& member, const wchar_t* member_name, PX_Domain_Mask::Enum domain,
-          PX_Plotter_Definition* plotter, const PX_Plotter_Class_Factory& factory,
-          Validator* (PX_Plotter_Class_Factory::*create)(PX_Plotter_Definition*) const) {
-    member = px_frame(constructor, [&] { return (factory.*create)(plotter); });
-    if (!member && !(px_pending_domains & domain))
-        throw MVNK_Memory_Exception(PX_Code::No_Memory, constructor, member_name, source.file_tag);
-}
-
-// Calls a domain validator's operation, where the domain is there.
-template <class Validator>
-void call(const PX_Smart_Pointer<Validator>& validator, void (Validator::*operation)()) {
-    if (validator)
-        ((*validator).*operation)();
-}
-
 template <class Entry>
 void remove_user_defined(const PX_Smart_Pointer<PX_Named_Object_List<Entry>>& list) {
-    if (!list)
-        return;
-    for (auto next = list->begin(); next != list->end();) {
-        const PX_Smart_Pointer<Entry> entry = *next;
-        ++next;
-        if (entry && entry->get_caps_type() == PX_Caps_Type::Caps_Type_User)
-            list->remove(entry.get());
-    }
+    if (list)
+        list->remove_if(
+            [](const Entry& entry) { return entry.get_caps_type() == PX_Caps_Type::Caps_Type_User; });
 }
 
 }  // namespace
 
 PX_Plotter_Validator::~PX_Plotter_Validator() = default;
 
-PX_Std_Plotter_Validator::PX_Std_Plotter_Validator(PX_Plotter_Definition* plotter) {
-    if (!plotter)
-        throw MVNK_Error(PX_Code::Null_Argument, constructor, L"plotter", source.file_tag);
-    m_plotter = plotter;
+PX_Std_Plotter_Validator::PX_Std_Plotter_Validator(PX_Plotter_Definition* plotter) : m_plotter(plotter) {
+    px_require_argument(plotter, constructor, L"plotter", px_std_plval_source.file_tag);
     const auto factory = plotter->get_class_factory();
-    if (!factory)
-        throw MVNK_Error(PX_Code::Null_Argument, constructor, L"class_factory", source.file_tag);
+    px_require_argument(factory, constructor, L"class_factory", px_std_plval_source.file_tag);
     using Domain = PX_Domain_Mask;
-    using Factory = PX_Plotter_Class_Factory;
-    const auto make_one = [&](auto& member, const wchar_t* name, Domain::Enum domain, auto create) {
-        make(member, name, domain, plotter, *factory, create);
+    const auto require = [](const auto& validator, Domain::Enum domain, const wchar_t* member) {
+        px_require_made(validator || px_is_pending(domain), constructor, member,
+                        px_std_plval_source.file_tag);
     };
-    make_one(m_media_validator, L"m_media_validator", Domain::Media, &Factory::MK_Create_Media_Validator);
-    make_one(m_phys_pen_validator, L"m_phys_pen_validator", Domain::Phys_Pens,
-             &Factory::MK_Create_Pen_Validator);
-    make_one(m_init_term_validator, L"m_init_term_validator", Domain::Init_Term,
-             &Factory::MK_Create_InitTerm_Validator);
-    make_one(m_custom_validator, L"m_custom_validator", Domain::Custom, &Factory::MK_Create_Custom_Validator);
-    make_one(m_res_color_mem_validator, L"m_res_color_mem_validator", Domain::Res_Color_Mem,
-             &Factory::MK_Create_ResColorMem_Validator);
-    make_one(m_io_validator, L"m_io_validator", Domain::IO, &Factory::MK_Create_Plotter_IO_Validator);
+    m_media_validator = factory->MK_Create_Media_Validator(plotter);
+    require(m_media_validator, Domain::Media, L"m_media_validator");
+    m_phys_pen_validator = factory->MK_Create_Pen_Validator(plotter);
+    require(m_phys_pen_validator, Domain::Phys_Pens, L"m_phys_pen_validator");
+    m_init_term_validator = factory->MK_Create_InitTerm_Validator(plotter);
+    require(m_init_term_validator, Domain::Init_Term, L"m_init_term_validator");
+    m_custom_validator = factory->MK_Create_Custom_Validator(plotter);
+    require(m_custom_validator, Domain::Custom, L"m_custom_validator");
+    m_res_color_mem_validator = factory->MK_Create_ResColorMem_Validator(plotter);
+    require(m_res_color_mem_validator, Domain::Res_Color_Mem, L"m_res_color_mem_validator");
+    m_io_validator = factory->MK_Create_Plotter_IO_Validator(plotter);
+    require(m_io_validator, Domain::IO, L"m_io_validator");
 }
 
 PX_Std_Plotter_Validator::~PX_Std_Plotter_Validator() = default;
@@ -223,29 +200,31 @@ void PX_Std_Plotter_Validator::clear_all_flags() {
 void PX_Std_Plotter_Validator::set_all_to_defaults() {
     // The name in the trace differs from the operation's on purpose.
     px_frame(L"PX_Std_Plotter_Validator::set_all_default", [&] {
-        call(m_media_validator, &PX_Media_Validator::set_all_media_to_defaults);
-        call(m_phys_pen_validator, &PX_PhysPen_Validator::set_all_physpen_to_defaults);
-        call(m_res_color_mem_validator, &PX_ResColorMem_Validator::set_all_res_color_mem_to_defaults);
-        call(m_custom_validator, &PX_Custom_Validator::set_all_custom_to_defaults);
-        call(m_init_term_validator, &PX_InitTerm_Validator::set_all_init_term_to_defaults);
-        call(m_io_validator, &PX_Plotter_IO_Validator::set_all_io_to_defaults);
+        px_call_if_built(m_media_validator, &PX_Media_Validator::set_all_media_to_defaults);
+        px_call_if_built(m_phys_pen_validator, &PX_PhysPen_Validator::set_all_physpen_to_defaults);
+        px_call_if_built(m_res_color_mem_validator,
+                         &PX_ResColorMem_Validator::set_all_res_color_mem_to_defaults);
+        px_call_if_built(m_custom_validator, &PX_Custom_Validator::set_all_custom_to_defaults);
+        px_call_if_built(m_init_term_validator, &PX_InitTerm_Validator::set_all_init_term_to_defaults);
+        px_call_if_built(m_io_validator, &PX_Plotter_IO_Validator::set_all_io_to_defaults);
     });
 }
 
 void PX_Std_Plotter_Validator::set_selected_to_defaults(long mask) {
     px_frame(L"PX_Std_Plotter_Validator::set_selected_to_defaults", [&] {
         if (mask & PX_Domain_Mask::Media)
-            call(m_media_validator, &PX_Media_Validator::set_all_media_to_defaults);
+            px_call_if_built(m_media_validator, &PX_Media_Validator::set_all_media_to_defaults);
         if (mask & PX_Domain_Mask::IO)
-            call(m_io_validator, &PX_Plotter_IO_Validator::set_all_io_to_defaults);
+            px_call_if_built(m_io_validator, &PX_Plotter_IO_Validator::set_all_io_to_defaults);
         if (mask & PX_Domain_Mask::Phys_Pens)
-            call(m_phys_pen_validator, &PX_PhysPen_Validator::set_all_physpen_to_defaults);
+            px_call_if_built(m_phys_pen_validator, &PX_PhysPen_Validator::set_all_physpen_to_defaults);
         if (mask & PX_Domain_Mask::Res_Color_Mem)
-            call(m_res_color_mem_validator, &PX_ResColorMem_Validator::set_all_res_color_mem_to_defaults);
+            px_call_if_built(m_res_color_mem_validator,
+                             &PX_ResColorMem_Validator::set_all_res_color_mem_to_defaults);
         if (mask & PX_Domain_Mask::Init_Term)
-            call(m_init_term_validator, &PX_InitTerm_Validator::set_all_init_term_to_defaults);
+            px_call_if_built(m_init_term_validator, &PX_InitTerm_Validator::set_all_init_term_to_defaults);
         if (mask & PX_Domain_Mask::Custom)
-            call(m_custom_validator, &PX_Custom_Validator::set_all_custom_to_defaults);
+            px_call_if_built(m_custom_validator, &PX_Custom_Validator::set_all_custom_to_defaults);
     });
 }
 
@@ -260,7 +239,7 @@ void PX_Std_Plotter_Validator::set_selected_rescolormem_data_to_defaults() {
               &RCM::set_installed_memory_to_default, &RCM::set_dithering_mode_to_default,
               &RCM::set_icm_method_to_default, &RCM::set_icm_intent_to_default, &RCM::set_dm_color_to_default,
               &RCM::set_color_vs_mono_to_default})
-            call(m_res_color_mem_validator, set_to_default);
+            px_call_if_built(m_res_color_mem_validator, set_to_default);
     });
 }
 
@@ -268,8 +247,9 @@ bool PX_Std_Plotter_Validator::delete_user_defined_caps(long mask) {
     const auto capabilities = m_plotter->get_plotter_capabilities();
     if (!capabilities)
         return false;
-    const auto media = capabilities->get_media_capabilities();
-    if (media && mask & PX_Domain_Mask::Media) {
+    if (!(mask & PX_Domain_Mask::Media))
+        return true;
+    if (const auto media = capabilities->get_media_capabilities()) {
         remove_user_defined(media->get_media_size_list());
         remove_user_defined(media->get_media_description_list());
     }

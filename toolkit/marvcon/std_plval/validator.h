@@ -73,14 +73,19 @@ protected:
                                  void (PX_InitTerm_Validator::*validate)(PX_Validation_Strategy::Enum),
                                  void (PX_InitTerm_Validator::*set_to_default)());
 
+    PX_Plotter_Definition* m_plotter;
+    // The arguments of the last run.
+    PX_Validation_Strategy::Enum m_strategy = PX_Validation_Strategy::Use_Default;
+    PX_Validation_Policy::Enum m_policy = PX_Validation_Policy::Reset_Conditional;
+    bool m_validate_settable = true;
+
 private:
     template <class Domain, class Ability, class Datum>
-    void validate_datum(typename Domain::Validator& validator, Ability ability, Datum datum,
-                        void (Domain::Validator::*validate)(PX_Validation_Strategy::Enum),
+    void validate_datum(const wchar_t* function, typename Domain::Validator& validator, Ability ability,
+                        Datum datum, void (Domain::Validator::*validate)(PX_Validation_Strategy::Enum),
                         void (Domain::Validator::*set_to_default)());
     void walk_every_datum();
 
-    PX_Plotter_Definition* m_plotter = nullptr;
     PX_Smart_Pointer<PX_Media_Validator> m_media_validator;
     PX_Smart_Pointer<PX_Plotter_IO_Validator> m_io_validator;
     PX_Smart_Pointer<PX_PhysPen_Validator> m_phys_pen_validator;
@@ -101,8 +106,4 @@ private:
     long m_linetype_caps_changes = 0;
     PX_Searchable_Atomic_Object_List<PX_String> m_custom_cfg_changes;
     PX_Searchable_Atomic_Object_List<PX_String> m_custom_caps_changes;
-    // The arguments of the last run.
-    PX_Validation_Strategy::Enum m_strategy = PX_Validation_Strategy::Use_Default;
-    PX_Validation_Policy::Enum m_policy = PX_Validation_Policy::Reset_Conditional;
-    bool m_validate_settable = true;
 };

@@ -1,13 +1,8 @@
 #include "toolkit/core/frame.h"
 #include "toolkit/marvcon/std_init_term_cfg/domain.h"
-#include "toolkit/marvcon/std_plval/domain_objects.h"
 #include "toolkit/marvcon/std_plval/validator.h"
 
 // The run over the whole configuration: which data there are, in which order, and what is done with each.
-
-namespace {
-constexpr PX_Source source = PX_SOURCE(L"std_plval");
-}
 
 bool PX_Std_Plotter_Validator::validate_all(PX_Validation_Strategy::Enum strategy,
                                             PX_Validation_Policy::Enum policy, bool validate_settable) {
@@ -21,33 +16,60 @@ bool PX_Std_Plotter_Validator::validate_all(PX_Validation_Strategy::Enum strateg
     });
 }
 
+namespace {
+
+// One datum: the flag of its ability, the flag of its configuration, and what is called for it.
+template <class Validator, class Ability_Flags, class Datum_Flags>
+struct Row {
+    typename Ability_Flags::Enum ability;
+    typename Datum_Flags::Enum datum;
+    void (Validator::*validate)(PX_Validation_Strategy::Enum);
+    void (Validator::*set_to_default)();
+};
+
+using IT = PX_InitTerm_Ability_Flags;
+using IT_Validator = PX_InitTerm_Validator;
+
+// clang-format off
+constexpr Row<IT_Validator, IT, IT> init_term_rows[] = {
+    {IT::Preinit_String,     IT::Preinit_String,     &IT_Validator::validate_preinit_string,     &IT_Validator::set_preinit_string_to_default},
+    {IT::Postinit_String,    IT::Postinit_String,    &IT_Validator::validate_postinit_string,    &IT_Validator::set_postinit_string_to_default},
+    {IT::Termination_String, IT::Termination_String, &IT_Validator::validate_termination_string, &IT_Validator::set_termination_string_to_default},
+};
+// clang-format on
+
+}  // namespace
+
 // A later datum is checked against what the earlier ones have just fixed: the order is part of the contract.
 void PX_Std_Plotter_Validator::walk_every_datum() {
-    using Init_Term = PX_InitTerm_Ability_Flags;
-    using Init_Term_Validator = PX_InitTerm_Validator;
-
-    // clang-format off
-    validate_initterm_datum(Init_Term::Preinit_String,     Init_Term::Preinit_String,     &Init_Term_Validator::validate_preinit_string,     &Init_Term_Validator::set_preinit_string_to_default);
-    validate_initterm_datum(Init_Term::Postinit_String,    Init_Term::Postinit_String,    &Init_Term_Validator::validate_postinit_string,    &Init_Term_Validator::set_postinit_string_to_default);
-    validate_initterm_datum(Init_Term::Termination_String, Init_Term::Termination_String, &Init_Term_Validator::validate_termination_string, &Init_Term_Validator::set_termination_string_to_default);
-    // clang-format on
-
+    for (const auto& row : init_term_rows)
+        validate_initterm_datum(row.ability, row.datum, row.validate, row.set_to_default);
     // Custom data have no ability: they are validated under every policy.
-    if (m_custom_validator)
-        m_custom_validator->validate_all_custom(m_strategy);
+    px_call_if_built(m_custom_validator, &PX_Custom_Validator::validate_all_custom, m_strategy);
 }
 
 template <class Domain, class Ability, class Datum>
 void PX_Std_Plotter_Validator::validate_datum(
-    typename Domain::Validator& validator, Ability ability, Datum datum,
+    const wchar_t* function, typename Domain::Validator& validator, Ability ability, Datum datum,
     void (Domain::Validator::*validate)(PX_Validation_Strategy::Enum),
     void (Domain::Validator::*set_to_default)()) {
-    const PX_Domain_Objects<Domain> domain(m_plotter, L"PX_Std_Plotter_Validator::validate_datum");
-    switch (check_validate_datum(domain.capabilities->get_one_ability(ability))) {
-        case PX_Validator_Action::Validate:
-            if (!domain.configuration->get_one_validated(datum))
+    const auto require = [function](const auto& object, const wchar_t* words) {
+        px_require_argument(object, function, words, px_std_plval_source.file_tag);
+    };
+    const auto capabilities_root = m_plotter->get_plotter_capabilities();
+    const auto configuration_root = m_plotter->get_plotter_configuration();
+    require(capabilities_root, Domain::roots_missing);
+    const auto capabilities = ((*capabilities_root).*Domain::get_capabilities)();
+    require(capabilities, Domain::domain_missing);
+    switch (check_validate_datum(capabilities->get_one_ability(ability))) {
+        case PX_Validator_Action::Validate: {
+            require(configuration_root, Domain::roots_missing);
+            const auto configuration = ((*configuration_root).*Domain::get_configuration)();
+            require(configuration, Domain::domain_missing);
+            if (!configuration->get_one_validated(datum))
                 (validator.*validate)(m_strategy);
             break;
+        }
         case PX_Validator_Action::Set_To_Default:
             (validator.*set_to_default)();
             break;
@@ -60,7 +82,8 @@ void PX_Std_Plotter_Validator::validate_initterm_datum(
     PX_InitTerm_Ability_Flags::Enum ability, PX_InitTerm_Ability_Flags::Enum datum,
     void (PX_InitTerm_Validator::*validate)(PX_Validation_Strategy::Enum),
     void (PX_InitTerm_Validator::*set_to_default)()) {
-    validate_datum<PX_InitTerm_Domain>(*m_init_term_validator, ability, datum, validate, set_to_default);
+    validate_datum<PX_InitTerm_Domain>(L"PX_Std_Plotter_Validator::validate_initterm_datum",
+                                       *m_init_term_validator, ability, datum, validate, set_to_default);
 }
 
 PX_Validator_Action::Enum PX_Std_Plotter_Validator::check_validate_datum(
@@ -86,6 +109,6 @@ PX_Validator_Action::Enum PX_Std_Plotter_Validator::check_validate_datum(
             return Action::Validate;
         default:
             throw MVNK_Error(PX_Code::Bad_Ability, L"PX_Std_Plotter_Validator::check_validate_datum", nullptr,
-                             source.file_tag);
+                             px_std_plval_source.file_tag);
     }
 }

@@ -20,6 +20,15 @@
 namespace fs = std::filesystem;
 
 namespace {
+void (*at_unload)() = nullptr;
+
+// Later than every destructor of a static object, the host's too: a definition that a host keeps in one goes
+// down in order.
+__attribute__((destructor)) void unload() {
+    if (at_unload)
+        at_unload();
+}
+
 fs::path program_path() {
     std::error_code none;
     return fs::read_symlink("/proc/self/exe", none);
@@ -66,6 +75,10 @@ std::vector<fs::path> candidates(const fs::path& name) {
 }  // namespace
 
 // Never destroyed: a module that is kept to the end of the process is freed through it.
+void px_call_at_unload(void (*function)()) {
+    at_unload = function;
+}
+
 PX_Platform& px_native_platform() {
     static PX_Platform& platform = *new PX_Posix_Platform;
     return platform;

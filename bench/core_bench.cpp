@@ -11,8 +11,8 @@ namespace {
 
 class Thing : public PX_Object {};
 
-// Copies and releases a pointer to one of the live objects after the other, in an order in which neighbours in
-// memory do not follow each other.
+// Copies and releases a pointer to one of the live objects after the other, in an order in which neighbours
+// in memory do not follow each other.
 template <class Pointer>
 void copy_and_release(benchmark::State& state) {
     const auto live = static_cast<std::size_t>(state.range(0));

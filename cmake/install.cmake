@@ -1,0 +1,30 @@
+include(CMakePackageConfigHelpers)
+
+set(marvcon_package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/marvcon)
+set(marvcon_texts_dir ${CMAKE_INSTALL_LIBDIR}/marvcon)
+
+install(TARGETS marvcon marvcon_static marvcon_scripted_platform EXPORT marvcon_targets)
+# The headers keep their paths, so that an include reads the same inside and outside.
+install(
+    DIRECTORY ${PROJECT_SOURCE_DIR}/toolkit
+    DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/marvcon
+    FILES_MATCHING
+    PATTERN "*.h"
+    PATTERN "resources" EXCLUDE)
+
+install(EXPORT marvcon_targets NAMESPACE marvcon:: DESTINATION ${marvcon_package_dir})
+configure_package_config_file(
+    ${CMAKE_CURRENT_LIST_DIR}/marvcon-config.cmake.in ${PROJECT_BINARY_DIR}/marvcon-config.cmake
+    INSTALL_DESTINATION ${marvcon_package_dir}
+    PATH_VARS marvcon_texts_dir)
+# Until 1.0 a new minor version may change the contracts.
+write_basic_package_version_file(
+    ${PROJECT_BINARY_DIR}/marvcon-config-version.cmake COMPATIBILITY SameMinorVersion)
+install(FILES ${PROJECT_BINARY_DIR}/marvcon-config.cmake ${PROJECT_BINARY_DIR}/marvcon-config-version.cmake
+        DESTINATION ${marvcon_package_dir})
+
+# From the folder of the .pc file back to the prefix: the tree may be moved after its installation.
+file(RELATIVE_PATH marvcon_prefix_from_pc /${CMAKE_INSTALL_LIBDIR}/pkgconfig /)
+string(REGEX REPLACE "/$" "" marvcon_prefix_from_pc ${marvcon_prefix_from_pc})
+configure_file(${CMAKE_CURRENT_LIST_DIR}/marvcon.pc.in ${PROJECT_BINARY_DIR}/marvcon.pc @ONLY)
+install(FILES ${PROJECT_BINARY_DIR}/marvcon.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)

@@ -78,7 +78,8 @@ private:
         T* const object = std::exchange(m_object, nullptr);
         if (SPMP()->release_reference(address(object)) != 0)
             return false;
-        static_assert(sizeof(T) > 0, "include the contract of what a counted pointer deletes");
+        static_assert(
+            requires { sizeof(T); }, "include the contract of what a counted pointer deletes");
         delete object;
         return true;
     }

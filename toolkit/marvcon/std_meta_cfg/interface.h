@@ -25,7 +25,8 @@ struct PX_Model_Ability_Flags {
         Model_Ability_10 = 10,
         Model_Ability_11 = 11,
     };
-    static constexpr PX_Flag_Range range{12, L"PX_Model_Ability_Flags::Enum", px_std_meta_cfg_source.header_path};
+    static constexpr PX_Flag_Range range{12, L"PX_Model_Ability_Flags::Enum",
+                                         px_std_meta_cfg_source.header_path};
 };
 
 class PX_EXPORT PX_Model_Ability : public PX_Flag_Set<PX_Abilities, PX_Model_Ability_Flags> {};

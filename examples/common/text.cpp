@@ -1,0 +1,76 @@
+#include "examples/common/text.h"
+
+#include <array>
+#include <cstddef>
+
+namespace text {
+namespace {
+
+struct Character {
+    char32_t number;
+    std::size_t length;  // in bytes
+};
+
+Character first_character(std::string_view bytes) {
+    const auto byte = [&](std::size_t at) {
+        return static_cast<char32_t>(static_cast<unsigned char>(bytes[at]));
+    };
+    const char32_t lead = byte(0);
+    const Character as_latin_1{lead, 1};
+    const std::size_t tails = lead < 0xC0 ? 0 : lead < 0xE0 ? 1 : lead < 0xF0 ? 2 : 3;
+    if (tails == 0 || lead > 0xF4 || bytes.size() <= tails)
+        return as_latin_1;
+    char32_t number = lead & (0x3FU >> tails);
+    for (std::size_t at = 1; at <= tails; ++at) {
+        if ((byte(at) & 0xC0) != 0x80)
+            return as_latin_1;
+        number = number << 6 | (byte(at) & 0x3F);
+    }
+    constexpr std::array<char32_t, 4> lowest = {0, 0x80, 0x800, 0x10000};
+    const bool surrogate = (number & 0xFFFFF800) == 0xD800;
+    return number < lowest[tails] || number > 0x10FFFF || surrogate ? as_latin_1
+                                                                    : Character{number, tails + 1};
+}
+
+}  // namespace
+
+std::wstring from_utf8(std::string_view bytes) {
+    std::wstring wide;
+    while (!bytes.empty()) {
+        const Character next = first_character(bytes);
+        wide += static_cast<wchar_t>(next.number);
+        bytes.remove_prefix(next.length);
+    }
+    return wide;
+}
+
+std::string to_utf8(std::wstring_view wide) {
+    std::string bytes;
+    for (const wchar_t character : wide) {
+        const auto number = static_cast<char32_t>(character);
+        constexpr std::array<char32_t, 4> leads = {0x00, 0xC0, 0xE0, 0xF0};
+        const unsigned tails = number < 0x80 ? 0 : number < 0x800 ? 1 : number < 0x10000 ? 2 : 3;
+        bytes += static_cast<char>(leads[tails] | number >> (6 * tails));
+        for (unsigned tail = tails; tail-- > 0;)
+            bytes += static_cast<char>(0x80 | (number >> (6 * tail) & 0x3F));
+    }
+    return bytes;
+}
+
+std::string on_one_line(std::string_view bytes) {
+    std::string line;
+    bool blank = false;
+    for (const char c : bytes) {
+        if (static_cast<unsigned char>(c) <= ' ' || c == 0x7F) {
+            blank = !line.empty();
+            continue;
+        }
+        if (blank)
+            line += ' ';
+        blank = false;
+        line += c;
+    }
+    return line;
+}
+
+}  // namespace text

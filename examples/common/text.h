@@ -1,0 +1,16 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace text {
+
+// A byte that belongs to no UTF-8 character becomes the Latin-1 character of its number: descriptions of
+// older devices are written so.
+std::wstring from_utf8(std::string_view bytes);
+std::string to_utf8(std::wstring_view wide);
+
+// For a terminal or a name: every run of blanks and control characters as one blank, none at the ends.
+std::string on_one_line(std::string_view bytes);
+
+}  // namespace text

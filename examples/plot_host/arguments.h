@@ -1,0 +1,30 @@
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <ostream>
+
+#include "toolkit/marvcon/marvcon.h"
+
+namespace plot_host {
+
+// What the command line asks for; an empty path stands for an option that was not given.
+struct Arguments {
+    std::filesystem::path device;
+    std::filesystem::path choice;
+    std::filesystem::path save;
+    std::filesystem::path log;
+    PX_Validation_Strategy::Enum strategy = PX_Validation_Strategy::Use_Nearest;
+    PX_Validation_Policy::Enum policy = PX_Validation_Policy::Validate_Conditional;
+    bool fixed_settables = false;
+};
+
+// Nothing when the user asked for help, which goes to `out`. Throws std::runtime_error for a line that makes
+// no sense.
+std::optional<Arguments> parse_arguments(int count, const char* const* words, std::ostream& out);
+
+// The words of the command line.
+const char* word_for(PX_Validation_Strategy::Enum strategy);
+const char* word_for(PX_Validation_Policy::Enum policy);
+
+}  // namespace plot_host

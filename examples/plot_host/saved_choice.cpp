@@ -1,0 +1,199 @@
+#include "examples/plot_host/saved_choice.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <fstream>
+#include <nlohmann/json.hpp>
+#include <optional>
+#include <stdexcept>
+#include <system_error>
+#include <vector>
+
+#include "examples/common/text.h"
+
+namespace plot_host {
+namespace {
+
+using json = nlohmann::ordered_json;
+
+// A value of the file with its place in it, so that whatever is wrong with it can be named. What is thrown
+// here goes on after the name of the file.
+class Field {
+public:
+    Field(const json& value, std::string name) : m_value(value), m_name(std::move(name)) {}
+
+    [[noreturn]] void reject(const std::string& why) const {
+        throw std::runtime_error((m_name.empty() ? " " : ", field '" + m_name + "', ") + why);
+    }
+
+    // The members that are there. One that is not known is a slip that would go unnoticed.
+    std::vector<std::pair<std::string, Field>> members(const std::vector<std::string>& known) const {
+        if (!m_value.is_object())
+            reject(std::string("must be an object, not ") + m_value.type_name());
+        std::vector<std::pair<std::string, Field>> found;
+        for (const auto& [key, value] : m_value.items()) {
+            found.emplace_back(key, Field(value, m_name.empty() ? key : m_name + "." + key));
+            if (std::ranges::find(known, key) == known.end())
+                found.back().second.reject("is not known");
+        }
+        return found;
+    }
+
+    std::string text() const {
+        if (!m_value.is_string())
+            reject(std::string("must be a text, not ") + m_value.type_name());
+        return m_value.get<std::string>();
+    }
+
+    // Nothing for a string that was taken away.
+    std::optional<PX_Dev_String> device_string() const {
+        if (m_value.is_null())
+            return std::nullopt;
+        const std::wstring characters = text::from_utf8(text());
+        std::vector<unsigned char> bytes;
+        for (const wchar_t character : characters) {
+            if (character > 0xFF)
+                reject("has a character above U+00FF at place " + std::to_string(bytes.size() + 1) +
+                       ", which is not a byte");
+            bytes.push_back(static_cast<unsigned char>(character));
+        }
+        return PX_Dev_String(bytes.data(), static_cast<long>(bytes.size()));
+    }
+
+private:
+    const json& m_value;
+    std::string m_name;
+};
+
+json text_of(const PX_Dev_String* string) {
+    if (!string)
+        return nullptr;
+    return text::to_utf8(std::wstring(string->data(), string->data() + string->length()));
+}
+
+struct Device_String {
+    const char* key;
+    PX_Smart_Pointer<PX_Dev_String> (PX_InitTerm_Configuration::*get)() const;
+    void (PX_InitTerm_Configuration::*set)(const PX_Dev_String*);
+};
+
+const Device_String device_strings[] = {
+    {"preinit_string", &PX_InitTerm_Configuration::get_preinit_string,
+     &PX_InitTerm_Configuration::set_preinit_string},
+    {"postinit_string", &PX_InitTerm_Configuration::get_postinit_string,
+     &PX_InitTerm_Configuration::set_postinit_string},
+    {"termination_string", &PX_InitTerm_Configuration::get_termination_string,
+     &PX_InitTerm_Configuration::set_termination_string},
+};
+
+template <class Row, std::size_t count>
+std::vector<std::string> keys_of(const Row (&rows)[count]) {
+    std::vector<std::string> keys;
+    for (const Row& row : rows)
+        keys.emplace_back(row.key);
+    return keys;
+}
+
+void read_init_term(const Field& domain, const PX_Plotter_Configuration& into) {
+    const auto strings = into.get_init_term_configuration();
+    for (const auto& [key, field] : domain.members(keys_of(device_strings))) {
+        const std::optional<PX_Dev_String> string = field.device_string();
+        const auto row = std::ranges::find(device_strings, key, &Device_String::key);
+        ((*strings).*row->set)(string ? &*string : nullptr);
+    }
+}
+
+json write_init_term(const PX_Plotter_Configuration& choice) {
+    json domain;
+    const auto strings = choice.get_init_term_configuration();
+    for (const Device_String& row : device_strings)
+        domain[row.key] = text_of(((*strings).*row.get)().get());
+    return domain;
+}
+
+struct Domain {
+    const char* key;
+    void (*read)(const Field&, const PX_Plotter_Configuration&);
+    json (*write)(const PX_Plotter_Configuration&);
+};
+
+constexpr Domain domains[] = {
+    {"init_term", read_init_term, write_init_term},
+};
+
+Saved_Device read_device(const Field& field) {
+    Saved_Device device;
+    for (const auto& [key, member] : field.members({"maker", "model"}))
+        (key == "maker" ? device.maker : device.model) = member.text();
+    if (device.model.empty())
+        field.reject("names no model");
+    return device;
+}
+
+Saved_Device read_choice(const json& document, const PX_Plotter_Configuration& into) {
+    std::vector<std::string> known = keys_of(domains);
+    known.emplace_back("device");
+    const Field file(document, "");
+    std::optional<Saved_Device> device;
+    for (const auto& [key, field] : file.members(known)) {
+        if (key == "device")
+            device = read_device(field);
+        else
+            std::ranges::find(domains, key, &Domain::key)->read(field, into);
+    }
+    if (!device)
+        file.reject("has no field 'device'");
+    return *device;
+}
+
+// The words after the library's own mark, "[json.exception...] ".
+std::string reason_of(const json::exception& failure) {
+    const std::string what = failure.what();
+    const auto mark = what.find("] ");
+    return mark == std::string::npos ? what : what.substr(mark + 2);
+}
+
+std::string last_system_error() {
+    return std::generic_category().message(errno);
+}
+
+json parse_file(const std::filesystem::path& path) {
+    std::error_code ignored;
+    if (std::filesystem::is_directory(path, ignored))
+        throw std::runtime_error(" is a folder");
+    std::ifstream file(path, std::ios::binary);
+    if (!file)
+        throw std::runtime_error(" cannot be opened: " + last_system_error());
+    if (file.peek() == std::ifstream::traits_type::eof())
+        throw std::runtime_error(" is empty");
+    try {
+        return json::parse(file);
+    } catch (const json::exception& failure) {
+        throw std::runtime_error(" is broken: " + reason_of(failure));
+    }
+}
+
+}  // namespace
+
+Saved_Device load_choice(const std::filesystem::path& path, const PX_Plotter_Configuration& into) {
+    try {
+        return read_choice(parse_file(path), into);
+    } catch (const std::runtime_error& failure) {
+        throw std::runtime_error("the saved choice '" + path.string() + "'" + failure.what());
+    }
+}
+
+void save_choice(const std::filesystem::path& path, const Saved_Device& device,
+                 const PX_Plotter_Configuration& choice) {
+    json document;
+    document["device"] = {{"maker", device.maker}, {"model", device.model}};
+    for (const Domain& domain : domains)
+        document[domain.key] = domain.write(choice);
+    std::ofstream file(path, std::ios::binary);
+    file << document.dump(4, ' ', true) << std::endl;
+    if (!file)
+        throw std::runtime_error("the choice cannot be saved to '" + path.string() +
+                                 "': " + last_system_error());
+}
+
+}  // namespace plot_host

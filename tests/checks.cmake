@@ -1,0 +1,42 @@
+# The checks of the house itself, beside the tests of the library. 77 tells that one could not be made here.
+find_package(Python3 REQUIRED COMPONENTS Interpreter)
+find_program(MARVCON_PKG_CONFIG pkg-config)
+
+function(marvcon_check name)
+    add_test(NAME ${name} COMMAND ${ARGN})
+    set_tests_properties(${name} PROPERTIES SKIP_RETURN_CODE 77 TIMEOUT 300)
+endfunction()
+
+marvcon_check(check.layers ${Python3_EXECUTABLE} ${PROJECT_SOURCE_DIR}/scripts/check_layers.py --self-test)
+marvcon_check(
+    check.virtual_operations ${Python3_EXECUTABLE} ${PROJECT_SOURCE_DIR}/scripts/list_virtual_operations.py
+    --compiler ${CMAKE_CXX_COMPILER})
+marvcon_check(check.format sh ${PROJECT_SOURCE_DIR}/scripts/check_format.sh)
+marvcon_check(
+    check.windows_resource ${Python3_EXECUTABLE} ${CMAKE_CURRENT_LIST_DIR}/resources/windows_resource_test.py
+    --compiler ${CMAKE_CXX_COMPILER})
+
+add_executable(first_page readme/first_page.cpp)
+target_link_libraries(first_page PRIVATE marvcon marvcon_compile_options)
+marvcon_check(
+    check.readme ${Python3_EXECUTABLE} ${CMAKE_CURRENT_LIST_DIR}/readme/readme_test.py
+    $<TARGET_FILE:first_page>)
+
+set(consumer_flags ${CMAKE_CXX_FLAGS})
+if(MARVCON_SANITIZE)
+    string(APPEND consumer_flags " -fsanitize=${MARVCON_SANITIZE}")
+endif()
+marvcon_check(
+    check.consumer
+    ${CMAKE_COMMAND}
+    -DTOOLKIT_BUILD_DIR=${PROJECT_BINARY_DIR}
+    -DSOURCE_DIR=${CMAKE_CURRENT_LIST_DIR}/consumer
+    -DWORK_DIR=${PROJECT_BINARY_DIR}/consumer
+    -DGENERATOR=${CMAKE_GENERATOR}
+    -DBUILD_TYPE=${CMAKE_BUILD_TYPE}
+    -DCXX=${CMAKE_CXX_COMPILER}
+    -DCXX_FLAGS=${consumer_flags}
+    -DLIBDIR=${CMAKE_INSTALL_LIBDIR}
+    -DPKG_CONFIG=${MARVCON_PKG_CONFIG}
+    -P
+    ${CMAKE_CURRENT_LIST_DIR}/consumer/install_and_use.cmake)

@@ -16,20 +16,21 @@ ROOT = pathlib.Path(__file__).resolve().parent.parent
 FLOORS = {"host": 0, "platform": 1, "core": 2, "marvcon": 3}
 BACK_ENDS = {"posix", "win32", "scripted"}
 FRAME = {"std_plotter_def", "std_plval"}
-FRAME_FACE = {"interface.h", "factory_interface.h", "domain_objects.h", "pending.h"}
+FRAME_FACE = {"interface.h", "factory_interface.h", "datum.h", "domain_objects.h", "pending.h"}
 DOMAINS = {
     "std_meta_cfg", "std_media_cfg", "std_io_cfg", "std_res_color_mem_cfg", "std_phys_pen_cfg",
     "std_init_term_cfg", "std_custom_cfg", "std_linetype_caps", "std_raster_caps", "std_sys_io_caps",
     "std_plotter_io", "device_data", "font_usage",
 }
-# Who may read the interface.h of which other domain: the identity of the device, and the ports.
+# Who may read the interface.h of which other domain: the identity of the device, and the ports. Media need the name
+# lists that stand with the identity.
 NEIGHBOURS = {
     ("std_io_cfg", "std_meta_cfg"), ("std_plotter_io", "std_meta_cfg"),
-    ("std_res_color_mem_cfg", "std_meta_cfg"),
+    ("std_res_color_mem_cfg", "std_meta_cfg"), ("std_media_cfg", "std_meta_cfg"),
     ("std_plotter_io", "std_io_cfg"), ("std_sys_io_caps", "std_io_cfg"),
     ("std_plotter_io", "std_sys_io_caps"), ("std_io_cfg", "std_sys_io_caps"),
 }
-CONTRACTS = {"interface.h", "factory_interface.h"}
+CONTRACTS = {"interface.h", "catalogue_interface.h", "factory_interface.h"}
 WIN_TYPES = "toolkit/platform/win_types.h"
 PUBLIC_FACE = "toolkit/marvcon/marvcon.h"
 

@@ -1,5 +1,6 @@
 #!/bin/sh
-# Builds the sample host and opens a choice, which was saved on an office printer, on a wide-format device.
+# Builds the sample host and opens a choice, which was saved on an office printer, on a wide-format device and
+# on one that is fed from a roll. Pictures of the sheets lie in build/demo.
 set -eu
 cd "$(dirname "$0")/.."
 . scripts/packages.sh
@@ -8,30 +9,41 @@ build=build/demo
 work=$build/devices
 driver=/usr/lib/cups/driver/openprinting-ppds
 
-# Puts the first description into $2 whose name in the packages holds one of the patterns $3.. and which has
-# job-control strings.
+# Puts the first description into $2 whose name in the packages holds one of the patterns $4.. and which has a
+# line of the pattern $3.
 take_description() {
     kind=$1
     file=$2
-    shift 2
+    line=$3
+    shift 3
     for pattern; do
         "$driver" list | sed -n 's/^"\([^"]*\)".*/\1/p' | grep -- "$pattern" >"$work/names" || continue
         while read -r name; do
             "$driver" cat "$name" >"$file" </dev/null || continue
-            if grep -q '^\*JCLBegin' "$file"; then
+            if grep -q -- "$line" "$file"; then
                 echo "$kind: ${name#*:}"
                 return 0
             fi
         done <"$work/names"
     done
-    echo "The packages hold no $kind with job-control strings." >&2
+    echo "The packages hold no $kind with a line like $line." >&2
     return 1
 }
 
 take_real_devices() {
     need_packages openprinting-ppds || return 1
-    take_description "Wide-format device" "$work/wide_format.ppd" 'Ricoh-MP_CW2200_PDF' 'CW2200' &&
-        take_description "Office printer" "$work/office.ppd" 'Sharp/shac260\.ppd' 'Sharp/'
+    take_description "Wide-format device" "$work/wide_format.ppd" '^\*JCLBegin' 'Ricoh-MP_CW2200_PDF' 'CW2200' &&
+        take_description "Office printer" "$work/office.ppd" '^\*JCLBegin' 'Sharp/shac260\.ppd' 'Sharp/' &&
+        take_description "Roll-fed device" "$work/roll.ppd" '^\*InputSlot Roll' '1050C_PS3' '_PS3'
+}
+
+# Opens the choice on the device $2 under both strategies and draws the sheets of both.
+draw() {
+    for strategy in default nearest; do
+        picture=$build/$1_$strategy.svg
+        run --device "$2" --choice "$choice" --strategy "$strategy" --picture "$picture"
+        echo "The sheet before and after: $picture"
+    done
 }
 
 run() {
@@ -51,6 +63,7 @@ fi
 
 if take_real_devices; then
     device=$work/wide_format.ppd
+    roll=$work/roll.ppd
     choice=$work/office_choice.json
     echo
     echo "=== A choice is made on the office printer: its defaults"
@@ -58,6 +71,7 @@ if take_real_devices; then
 else
     echo "No real devices to be had: the samples in examples/data serve instead."
     device=examples/data/sample_plotter.ppd
+    roll=$device
     choice=examples/data/office_choice.json
 fi
 
@@ -71,3 +85,10 @@ run --device "$device" --choice "$choice" --policy keep
 echo
 echo "=== The choice as it was saved after the reset, opened again: nothing is changed"
 run --device "$device" --choice "$work/own_choice.json" --policy validate
+
+echo
+echo "=== The office printer's sheet on the wide-format device: its default, then the nearest it has"
+draw wide_format "$device"
+echo
+echo "=== The same on the roll-fed device"
+draw roll "$roll"

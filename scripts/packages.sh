@@ -30,7 +30,7 @@ need_packages() {
         $as_root apt-get -qq update >/dev/null 2>&1 || true
         # shellcheck disable=SC2086
         if ! reason=$(install_packages $missing 2>&1 >/dev/null); then
-            echo "Missing:$missing; they cannot be installed: $(echo "$reason" | grep '^E:' | head -n 1)" >&2
+            echo "Missing:$missing; they cannot be installed: $(echo "$reason" | grep '^E:' || echo "$reason" | tail -n 1)" >&2
             return 1
         fi
     fi

@@ -61,6 +61,9 @@ std::optional<Arguments> parse_arguments(int count, const char* const* words, st
         ->type_name("FILE");
     app.add_option("--save", arguments.save, "where to save the choice as it is afterwards")
         ->type_name("FILE");
+    app.add_option("--picture", arguments.picture,
+                   "where to draw the sheet before and after, as an SVG picture")
+        ->type_name("FILE");
     add_choice_of(app, "--strategy", strategies, arguments.strategy, "where a datum goes that does not fit");
     add_choice_of(app, "--policy", policies, arguments.policy, "how much of the choice is looked at");
     app.add_flag("--fixed-settables", arguments.fixed_settables,

@@ -13,6 +13,7 @@ struct Arguments {
     std::filesystem::path device;
     std::filesystem::path choice;
     std::filesystem::path save;
+    std::filesystem::path picture;
     std::filesystem::path log;
     PX_Validation_Strategy::Enum strategy = PX_Validation_Strategy::Use_Nearest;
     PX_Validation_Policy::Enum policy = PX_Validation_Policy::Validate_Conditional;

@@ -6,10 +6,11 @@
 #include <stdexcept>
 #include <system_error>
 
-#include "examples/common/made.h"
 #include "examples/common/text.h"
 #include "examples/plot_host/arguments.h"
+#include "examples/plot_host/configuration.h"
 #include "examples/plot_host/host_error_handler.h"
+#include "examples/plot_host/picture.h"
 #include "examples/plot_host/report.h"
 #include "examples/plot_host/saved_choice.h"
 
@@ -28,20 +29,6 @@ Saved_Device identity_of(const PX_Plotter_Definition& device) {
     const auto meta = device.get_meta_capabilities();
     return {text::to_utf8(meta->get_family()->get_canonical_name()),
             text::to_utf8(meta->get_model()->get_canonical_name())};
-}
-
-// Everything at its start, out of the device's own factory; a later domain adds its configuration here.
-PX_Smart_Pointer<PX_Plotter_Configuration> new_configuration(const PX_Plotter_Definition& device) {
-    const auto factory = device.get_class_factory();
-    const auto meta = device.get_meta_capabilities();
-    const auto family = meta->get_family();
-    auto configuration = made(
-        factory->MK_Create_Plotter_Configuration(family->get_canonical_name(), family->get_canonical_name(),
-                                                 meta->get_model()->get_canonical_name()),
-        L"configuration");
-    const auto strings = made(factory->MK_Create_InitTerm_Configuration(), L"init_term_configuration");
-    configuration->set_init_term_configuration(strings.get());
-    return configuration;
 }
 
 PX_Smart_Pointer<PX_Error_Handler> make_handler(const std::filesystem::path& log, std::ostream& err) {
@@ -82,11 +69,16 @@ void reconcile(const Arguments& arguments, PX_Plotter_Definition& device, std::o
         validator->set_all_to_defaults();
 
     const Snapshot before = take_snapshot(*configuration);
+    const Sheet sheet_before =
+        take_sheet(*configuration, "Before: " + shown(made_on ? *made_on : identity_of(device)));
     const bool answer =
         validator->validate_all(arguments.strategy, arguments.policy, !arguments.fixed_settables);
     print_heading(out, device, made_on, arguments);
     print_data(out, device, before);
     print_answer(out, *validator, answer);
+    if (!arguments.picture.empty())
+        draw_sheets(arguments.picture, sheet_before,
+                    take_sheet(*configuration, "After: " + shown(identity_of(device))));
     if (!arguments.save.empty())
         save_choice(arguments.save, identity_of(device), *configuration);
 }

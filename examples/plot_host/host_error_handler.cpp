@@ -10,7 +10,8 @@ Host_Error_Handler::Host_Error_Handler(std::ostream& err) : m_err(err) {
 }
 
 void Host_Error_Handler::LogMessage(const wchar_t* caption, const wchar_t* text) {
-    m_err << text::to_utf8(caption) << ": " << text::to_utf8(text) << '\n';
+    m_err << text::to_utf8(PX_String(caption).c_str()) << ": " << text::to_utf8(PX_String(text).c_str())
+          << '\n';
     Std_Error_Handler::LogMessage(caption, text);
 }
 

@@ -12,6 +12,7 @@ namespace plot_host {
 struct Value {
     std::string exact;
     std::string shown;
+    std::string name{};  // of the datum
 };
 
 // Every datum of a configuration, in the order of the report.

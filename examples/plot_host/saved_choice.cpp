@@ -3,67 +3,17 @@
 #include <algorithm>
 #include <cerrno>
 #include <fstream>
-#include <nlohmann/json.hpp>
 #include <optional>
 #include <stdexcept>
 #include <system_error>
 #include <vector>
 
 #include "examples/common/text.h"
+#include "examples/plot_host/saved_field.h"
+#include "examples/plot_host/saved_media.h"
 
 namespace plot_host {
 namespace {
-
-using json = nlohmann::ordered_json;
-
-// A value of the file with its place in it, so that whatever is wrong with it can be named. What is thrown
-// here goes on after the name of the file.
-class Field {
-public:
-    Field(const json& value, std::string name) : m_value(value), m_name(std::move(name)) {}
-
-    [[noreturn]] void reject(const std::string& why) const {
-        throw std::runtime_error((m_name.empty() ? " " : ", field '" + m_name + "', ") + why);
-    }
-
-    // The members that are there. One that is not known is a slip that would go unnoticed.
-    std::vector<std::pair<std::string, Field>> members(const std::vector<std::string>& known) const {
-        if (!m_value.is_object())
-            reject(std::string("must be an object, not ") + m_value.type_name());
-        std::vector<std::pair<std::string, Field>> found;
-        for (const auto& [key, value] : m_value.items()) {
-            found.emplace_back(key, Field(value, m_name.empty() ? key : m_name + "." + key));
-            if (std::ranges::find(known, key) == known.end())
-                found.back().second.reject("is not known");
-        }
-        return found;
-    }
-
-    std::string text() const {
-        if (!m_value.is_string())
-            reject(std::string("must be a text, not ") + m_value.type_name());
-        return m_value.get<std::string>();
-    }
-
-    // Nothing for a string that was taken away.
-    std::optional<PX_Dev_String> device_string() const {
-        if (m_value.is_null())
-            return std::nullopt;
-        const std::wstring characters = text::from_utf8(text());
-        std::vector<unsigned char> bytes;
-        for (const wchar_t character : characters) {
-            if (character > 0xFF)
-                reject("has a character above U+00FF at place " + std::to_string(bytes.size() + 1) +
-                       ", which is not a byte");
-            bytes.push_back(static_cast<unsigned char>(character));
-        }
-        return PX_Dev_String(bytes.data(), static_cast<long>(bytes.size()));
-    }
-
-private:
-    const json& m_value;
-    std::string m_name;
-};
 
 json text_of(const PX_Dev_String* string) {
     if (!string)
@@ -85,14 +35,6 @@ const Device_String device_strings[] = {
     {"termination_string", &PX_InitTerm_Configuration::get_termination_string,
      &PX_InitTerm_Configuration::set_termination_string},
 };
-
-template <class Row, std::size_t count>
-std::vector<std::string> keys_of(const Row (&rows)[count]) {
-    std::vector<std::string> keys;
-    for (const Row& row : rows)
-        keys.emplace_back(row.key);
-    return keys;
-}
 
 void read_init_term(const Field& domain, const PX_Plotter_Configuration& into) {
     const auto strings = into.get_init_term_configuration();
@@ -118,6 +60,7 @@ struct Domain {
 };
 
 constexpr Domain domains[] = {
+    {"media", read_saved_media, write_saved_media},
     {"init_term", read_init_term, write_init_term},
 };
 

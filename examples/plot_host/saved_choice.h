@@ -17,6 +17,11 @@ struct Saved_Device {
 //
 //     {
 //         "device": { "maker": "...", "model": "..." },
+//         "media": {
+//             "source": "Tray1", "source_entry": "Tray1", "size": "A4", "copies": 2, ...
+//             "margins": { "x_min": 12.0, "x_max": 582.0, "y_min": 12.0, "y_max": 829.0 },
+//             "snapshot": { "media_bounds": { "x": 595.0, "y": 842.0 }, ... }
+//         },
 //         "init_term": {
 //             "preinit_string": "\u001b...",
 //             "postinit_string": "",
@@ -25,7 +30,8 @@ struct Saved_Device {
 //     }
 //
 // A device string is a text of the characters U+0000 to U+00FF, a byte each; null is a string that was taken
-// away. A domain or a datum that is not named keeps what the configuration holds.
+// away. The snapshot is what the named choices were like; without it, a name stands for nothing that could be
+// compared. A domain or a datum that is not named keeps what the configuration holds.
 //
 // Both throw std::runtime_error with one line for the user, which names the field that is at fault.
 Saved_Device load_choice(const std::filesystem::path& path, const PX_Plotter_Configuration& into);

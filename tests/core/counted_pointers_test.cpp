@@ -1,8 +1,10 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <string>
 #include <vector>
 
+#include "tests/support/allocations.h"
 #include "toolkit/core/module.h"
 #include "toolkit/core/smart_pointer.h"
 
@@ -161,6 +163,23 @@ TEST(Module, ExitLeavesLivingObjectsTheirCounts) {
         EXPECT_FALSE(gone);
     }
     EXPECT_TRUE(gone);
+    PX_Module_Exit();
+    const auto before = support::allocation_count();
+    SPMP();
+    EXPECT_GT(support::allocation_count(), before) << "the empty pool went at the next exit";
+}
+
+TEST(Module, ExitCallsAFunctionOnce) {
+    static std::string called;
+    constexpr auto lists = [](bool) { called += "lists "; };
+    constexpr auto pool = [](bool) { called += "pool "; };
+    px_at_module_exit(PX_Exit_Step::Pool, pool);
+    px_at_module_exit(PX_Exit_Step::Lists, lists);
+    px_at_module_exit(PX_Exit_Step::Lists, lists);
+    PX_Module_Exit();
+    EXPECT_EQ(called, "lists pool ");
+    PX_Module_Exit();
+    EXPECT_EQ(called, "lists pool ");
 }
 
 }  // namespace

@@ -65,15 +65,23 @@ TEST(Exception, HasTheHandlerKindOfItsClass) {
 }
 
 TEST(Exception, TellsItsFunctionInBytesAndCutsItsDetail) {
-    const MVNK_Error wide(1, L"f\u00FC\u20AC", std::wstring(300, L'd').c_str());
+    MVNK_Error wide(1, L"f\u00FC\u20AC", std::wstring(300, L'd').c_str());
     EXPECT_STREQ(wide.what(), "f\xC3\xBC\xE2\x82\xAC") << "more than two bytes a character";
     EXPECT_EQ(std::wstring(wide.m_detail), std::wstring(259, L'd'));
     const MVNK_Error bare(1);
     EXPECT_EQ(bare.what(), nullptr);
     EXPECT_STREQ(bare.m_detail, L"");
 
-    MVNK_Error assigned(2, L"other");
+    MVNK_Error assigned(2, L"other", nullptr, L"other tag", 3);
+    wide.push_frame(L"frame");
     assigned = wide;
+    EXPECT_EQ(assigned.m_code, 1U);
+    EXPECT_EQ(assigned.m_resource_module, wide.m_resource_module);
+    EXPECT_EQ(assigned.m_function, wide.m_function);
+    EXPECT_STREQ(assigned.m_detail, wide.m_detail);
+    EXPECT_EQ(assigned.m_file, nullptr);
+    ASSERT_EQ(assigned.m_stack_depth, 1);
+    EXPECT_STREQ(assigned.m_stack[0], L"frame");
     EXPECT_STREQ(assigned.what(), wide.what());
     EXPECT_NE(static_cast<const void*>(assigned.what()), wide.what()) << "each owns its bytes";
 }

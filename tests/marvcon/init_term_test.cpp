@@ -6,6 +6,7 @@
 #include "tests/support/allocations.h"
 #include "tests/support/device.h"
 #include "tests/support/expect_exception.h"
+#include "tests/support/fields.h"
 
 namespace {
 
@@ -56,6 +57,17 @@ TEST(Dev_String, OwnsItsBytes) {
     }
 }
 
+TEST(Dev_String, LeavesABufferThatIsCounted) {
+    PX_Dev_String string = dev_string("abc");
+    auto* const buffer = const_cast<unsigned char*>(string.data());
+    SPMP()->add_reference(buffer);
+    string.assign(nullptr, 0);
+    EXPECT_EQ(SPMP()->get_count(buffer), 1);
+    EXPECT_EQ(buffer[0], 'a') << "its counter frees it";
+    SPMP()->release_reference(buffer);
+    delete[] buffer;
+}
+
 TEST(InitTerm_Configuration, SettersStoreCopiesAndClearBothFlags) {
     PX_Std_InitTerm_Configuration cfg;
     std::string source = with_zeros;
@@ -83,6 +95,46 @@ TEST(InitTerm_Configuration, SettersStoreCopiesAndClearBothFlags) {
         (cfg.*datum.set_string)(nullptr);
         EXPECT_EQ(bytes((cfg.*datum.get)()), "(null)");
     }
+}
+
+// Whether it is the string, its bytes or its count that finds no memory.
+TEST(InitTerm_Configuration, AStringThatFindsNoMemoryLeavesTheOldOne) {
+    PX_Std_InitTerm_Configuration cfg;
+    std::string source = with_zeros;
+    const PX_Dev_String string = dev_string(with_zeros);
+    for (const Datum& datum : data) {
+        SCOPED_TRACE(testing::PrintToString(datum.name));
+        for (const bool of_bytes : {true, false}) {
+            const auto held = (cfg.*datum.get)();
+            cfg.set_validated(true);
+            const auto failures = support::failures_of([&] {
+                EXPECT_EQ((cfg.*datum.get)(), held);
+                EXPECT_TRUE(cfg.get_one_validated(datum.flag));
+                if (of_bytes)
+                    (cfg.*datum.set_bytes)(reinterpret_cast<unsigned char*>(source.data()), 3);
+                else
+                    (cfg.*datum.set_string)(&string);
+            });
+            EXPECT_EQ(failures.size(), 3U);
+            EXPECT_NE((cfg.*datum.get)(), held);
+        }
+    }
+}
+
+TEST(InitTerm_Configuration, ADriverSeesItsFlagsCleared) {
+    class Driver : public PX_Std_InitTerm_Configuration {
+    public:
+        void set_one_validated(bool on, PX_InitTerm_Ability_Flags::Enum flag) override {
+            told += (on ? " v" : " -v") + std::to_string(flag);
+        }
+        void set_one_default(bool on, PX_InitTerm_Ability_Flags::Enum flag) override {
+            told += (on ? " d" : " -d") + std::to_string(flag);
+        }
+        std::string told;
+    } cfg;
+    for (const Datum& datum : data)
+        (static_cast<Configuration&>(cfg).*datum.set_string)(nullptr);
+    EXPECT_EQ(cfg.told, " -v0 -d0 -v1 -d1 -v2 -d2");
 }
 
 TEST(InitTerm_Configuration, TheAggregateLooksAtAllThree) {

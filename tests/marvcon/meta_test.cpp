@@ -66,13 +66,14 @@ TEST(Model, KeepsItsTextsAndItsClone) {
     model.set_localized_name(L"localized");
     model.set_dm_driver_version(7);
     model.set_default_system_cfg(true);
+    model.set_file_only(true);
     model.set_one_ability(PX_Ability_Value::Ability_Required, PX_Model_Ability_Flags::Model_Ability_11);
     const std::unique_ptr<PX_Model> clone(model.clone());
     EXPECT_STREQ(clone->get_canonical_name(), L"canonical");
     EXPECT_STREQ(clone->get_localized_name(), L"localized");
     EXPECT_EQ(clone->get_dm_driver_version(), 7);
     EXPECT_TRUE(clone->get_default_system_cfg());
-    EXPECT_FALSE(clone->get_file_only());
+    EXPECT_TRUE(clone->get_file_only());
     EXPECT_STREQ(clone->get_abilities(), L"000000000005");
     expect_thrown<PX_Severe_Error>(
         [&] { model.get_one_ability(static_cast<PX_Model_Ability_Flags::Enum>(12)); }, 1104,
@@ -131,6 +132,9 @@ TEST(Meta_Capabilities, StoreClonesAndCloneDeep) {
                                          L"PX_Std_Meta_Capabilities::set_family", L"family");
     expect_thrown<MVNK_Memory_Exception>([&] { meta.set_model(nullptr); }, 1101,
                                          L"PX_Std_Meta_Capabilities::set_model", L"new_model");
+    PX_Std_Model model;
+    model.set_canonical_name(L"model");
+    meta.set_model(&model);
     meta.set_toolkit_version(5);
     meta.set_driver_type(PX_Driver_Type::Driver_Type_System_2);
     meta.set_show_custom_first(true);
@@ -142,6 +146,8 @@ TEST(Meta_Capabilities, StoreClonesAndCloneDeep) {
     EXPECT_FALSE(clone->get_truetype_as_text());
     EXPECT_NE(clone->get_family(), meta.get_family());
     EXPECT_TRUE(clone->get_family()->supports_user_defined_model());
+    EXPECT_NE(clone->get_model(), meta.get_model());
+    EXPECT_STREQ(clone->get_model()->get_canonical_name(), L"model");
 }
 
 TEST(Meta_Capabilities, AFailingCloneOfAMemberPassesTheSetter) {

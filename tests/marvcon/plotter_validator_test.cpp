@@ -50,7 +50,9 @@ public:
     void set_all_init_term_to_defaults() override { calls += "init-term "; }
 };
 
-class Recording_Media : public PX_Media_Validator, public PX_Object {
+class Recording_Media : public PX_Std_Media_Validator {
+public:
+    using PX_Std_Media_Validator::PX_Std_Media_Validator;
     void set_all_media_to_defaults() override { calls += "media "; }
 };
 class Recording_IO : public PX_Plotter_IO_Validator, public PX_Object {
@@ -62,7 +64,11 @@ class Recording_Pens : public PX_PhysPen_Validator, public PX_Object {
 class Recording_RCM : public PX_ResColorMem_Validator, public PX_Object {
     void set_all_res_color_mem_to_defaults() override { calls += "rcm "; }
     void set_res_color_mem_to_default() override { calls += "rcm "; }
-    void set_mem_area_to_default() override { calls += "area "; }
+    void set_mem_area_to_default() override {
+        calls += "area ";
+        if (fails)
+            throw MVNK_Error(701, L"Recording_RCM");
+    }
     void set_resolution_to_default() override { calls += "resolution "; }
     void set_HardSoftNo_Dithering_to_default() override { calls += "dithering "; }
     void set_installed_memory_to_default() override { calls += "installed "; }
@@ -71,6 +77,9 @@ class Recording_RCM : public PX_ResColorMem_Validator, public PX_Object {
     void set_icm_intent_to_default() override { calls += "intent "; }
     void set_dm_color_to_default() override { calls += "color "; }
     void set_color_vs_mono_to_default() override { calls += "mono "; }
+
+public:
+    static inline bool fails = false;
 };
 class Recording_Custom : public PX_Custom_Validator, public PX_Object {
     void validate_all_custom(Strategy::Enum) override { calls += "custom "; }
@@ -86,8 +95,8 @@ public:
 
 class Recording_Factory : public PX_Std_Plotter_Class_Factory {
 public:
-    PX_Media_Validator* MK_Create_Media_Validator(PX_Plotter_Definition*) const override {
-        return new Recording_Media;
+    PX_Media_Validator* MK_Create_Media_Validator(PX_Plotter_Definition* plotter) const override {
+        return new Recording_Media(plotter);
     }
     PX_PhysPen_Validator* MK_Create_Pen_Validator(PX_Plotter_Definition*) const override {
         return new Recording_Pens;
@@ -207,7 +216,8 @@ TEST_F(Plotter_Validator, AnUndefinedAbilityEndsTheRunThere) {
 }
 
 TEST_F(Plotter_Validator, ReportsWhatIsMissingWhereItIsNeeded) {
-    constexpr const wchar_t* function = L"PX_Std_Plotter_Validator::validate_initterm_datum";
+    constexpr const wchar_t* function = L"PX_Std_Plotter_Validator::validate_media_datum";
+    m_device.media_caps()->set_abilities(PX_Ability_Value::Ability_Conditional);
     m_device.init_term_caps()->set_abilities(PX_Ability_Value::Ability_Conditional);
     m_device->set_plotter_configuration(nullptr);
     EXPECT_EQ(run(Policy::Keep_All), "custom ") << "nothing is asked of the configuration";
@@ -215,8 +225,7 @@ TEST_F(Plotter_Validator, ReportsWhatIsMissingWhereItIsNeeded) {
                                 L"plotter_caps or plotter_cfg");
     EXPECT_EQ(calls, "");
     m_device->set_plotter_capabilities(new PX_Std_Plotter_Capabilities);
-    expect_thrown<PX_Exception>([&] { run(Policy::Keep_All); }, 1103, function,
-                                L"initterm_caps or initterm_cfg");
+    expect_thrown<PX_Exception>([&] { run(Policy::Keep_All); }, 1103, function, L"media_caps or media_cfg");
 }
 
 TEST_F(Plotter_Validator, EachWordHasItsBitInTheMasksAndIsClearedByARun) {
@@ -304,6 +313,12 @@ TEST_F(Plotter_Validator, NamesItsFramesInTheTrace) {
     EXPECT_EQ(selected.frames,
               std::vector<std::wstring>{L"PX_Std_Plotter_Validator::set_selected_to_defaults"});
     Recording_Custom::fails = false;
+    Recording_RCM::fails = true;
+    const auto rcm = expect_thrown<PX_Exception>(
+        [&] { validator->set_selected_rescolormem_data_to_defaults(); }, 701, L"Recording_RCM", L"");
+    EXPECT_EQ(rcm.frames, std::vector<std::wstring>{
+                              L"PX_Std_Plotter_Validator::set_selected_rescolormem_data_to_defaults"});
+    Recording_RCM::fails = false;
 }
 
 TEST_F(Plotter_Validator, IsMadeOnlyWhole) {
@@ -326,6 +341,8 @@ TEST_F(Plotter_Validator, ARunOverValidatedDataAllocatesNothing) {
     const Device device;
     device.init_term_caps()->set_abilities(PX_Ability_Value::Ability_Required);
     device.init_term_cfg()->set_validated(true);
+    device.media_caps()->set_abilities(PX_Ability_Value::Ability_Required);
+    device.media_cfg()->set_validated(true);
     const auto validator = device.validator();
     validator->validate_all(Strategy::Use_Nearest, Policy::Validate_Conditional, true);
     const auto before = support::allocation_count();
@@ -334,43 +351,20 @@ TEST_F(Plotter_Validator, ARunOverValidatedDataAllocatesNothing) {
     EXPECT_FALSE(changed);
 }
 
-// Media capabilities with nothing but the two lists from which the user's own entries are deleted.
-template <class Contract>
-class Entry : public Contract, public PX_Object {
-public:
-    Entry(const wchar_t* name, int type) : m_name(name), m_type(static_cast<PX_Caps_Type::Enum>(type)) {}
-    const wchar_t* get_canonical_name() const override { return m_name; }
-    PX_Caps_Type::Enum get_caps_type() const override { return m_type; }
-
-private:
-    const wchar_t* m_name;
-    PX_Caps_Type::Enum m_type;
-};
-
-class Media_With_Lists : public PX_Media_Capabilities, public PX_Object {
-public:
-    PX_Smart_Pointer<PX_Named_Object_List<PX_Media_Size>> get_media_size_list() const override {
-        return m_sizes;
-    }
-    PX_Smart_Pointer<PX_Named_Object_List<PX_Media_Description>> get_media_description_list() const override {
-        return m_descriptions;
-    }
-    PX_Media_Capabilities* clone() const override { return new Media_With_Lists(*this); }
-
-    PX_Smart_Pointer<PX_Named_Object_List<PX_Media_Size>> m_sizes;
-    PX_Smart_Pointer<PX_Named_Object_List<PX_Media_Description>> m_descriptions;
-};
-
 TEST_F(Plotter_Validator, DeletesWhatTheUserDefined) {
-    Media_With_Lists media;
-    media.m_sizes = new PX_Named_Object_List<PX_Media_Size>;
-    for (const auto& [name, type] :
-         {std::pair{L"a", 2}, std::pair{L"b", 2}, std::pair{L"c", 0}, std::pair{L"d", 3}, std::pair{L"e", 2}})
-        media.m_sizes->append(new Entry<PX_Media_Size>(name, type));
-    m_device->get_plotter_capabilities()->set_media_capabilities(&media);
+    const auto media = m_device.media_caps();
+    media->set_media_description_list(nullptr);
+    const auto sizes = media->get_media_size_list();
+    for (const auto& [name, type] : {std::pair{L"a", 2}, std::pair{L"b", 2}, std::pair{L"c", 0},
+                                     std::pair{L"d", 3}, std::pair{L"e", 2}}) {
+        auto* const size = new PX_Std_Media_Size;
+        size->set_canonical_name(name);
+        size->set_caps_type(static_cast<PX_Caps_Type::Enum>(type));
+        sizes->append(size);
+    }
     const auto left = [&] {
         std::wstring names;
-        for (const auto& size : *media.m_sizes)
+        for (const auto& size : *sizes)
             names += size->get_canonical_name();
         return names;
     };
@@ -379,6 +373,17 @@ TEST_F(Plotter_Validator, DeletesWhatTheUserDefined) {
     EXPECT_EQ(left(), L"abcde");
     EXPECT_TRUE(validator->delete_user_defined_caps(2)) << "a missing list is passed over";
     EXPECT_EQ(left(), L"cd");
+    PX_Named_Object_List<PX_Media_Description> descriptions;
+    for (const auto type : {PX_Caps_Type::Caps_Type_User, PX_Caps_Type::Caps_Type_Withdrawn}) {
+        auto* const description = new PX_Std_Media_Description;
+        description->set_caps_type(type);
+        descriptions.append(description);
+    }
+    media->set_media_description_list(&descriptions);
+    EXPECT_TRUE(validator->delete_user_defined_caps(2));
+    ASSERT_EQ(media->get_media_description_list()->size(), 1);
+    EXPECT_EQ((*media->get_media_description_list()->begin())->get_caps_type(),
+              PX_Caps_Type::Caps_Type_Withdrawn);
     EXPECT_EQ(validator->get_caps_changed(), 0);
     m_device->set_plotter_capabilities(nullptr);
     EXPECT_FALSE(validator->delete_user_defined_caps(2));

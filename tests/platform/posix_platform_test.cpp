@@ -26,6 +26,12 @@
 namespace {
 namespace fs = std::filesystem;
 
+// Not by the C locale, which path::wstring asks.
+std::wstring wide(const fs::path& path) {
+    const std::u32string text = path.u32string();
+    return {text.begin(), text.end()};
+}
+
 std::string read_all(int fd) {
     std::string all;
     char some[4096];
@@ -166,7 +172,7 @@ TEST(PosixModules, LooksBesideTheProgramAndNeverInTheSystem) {
     dlclose(system);
 
     const std::wstring relative = L"\u00E4_" + std::to_wstring(getpid()) + L"/m";
-    const std::wstring absolute = program.parent_path().wstring() + L"/" + relative;
+    const std::wstring absolute = wide(program.parent_path()) + L"/" + relative;
     const HMODULE module = platform.LoadLibraryExW((relative + L".dll").c_str(), nullptr, 0);
     ASSERT_TRUE(module);
     EXPECT_EQ(platform.LoadLibraryW((absolute + L".dll").c_str()), module);
@@ -186,7 +192,7 @@ TEST(PosixModules, LooksBesideTheProgramAndNeverInTheSystem) {
 
 TEST(PosixModules, CutsThePathOfTheProgram) {
     PX_Posix_Platform platform;
-    const std::wstring program = fs::read_symlink("/proc/self/exe").wstring();
+    const std::wstring program = wide(fs::read_symlink("/proc/self/exe"));
     const DWORD length = static_cast<DWORD>(program.size());
     std::wstring path(program.size() + 1, L'.');
     EXPECT_EQ(platform.GetModuleFileNameW(nullptr, path.data(), length + 1), length);

@@ -204,3 +204,15 @@ TEST(ScriptedPlatform, ShowsWhatTheGuardRestores) {
     ASSERT_EQ(machine.count_of("_controlfp_s"), 2);
     EXPECT_EQ(machine.calls()[0].arguments[1], L"0") << "the guard only reads at first";
 }
+
+TEST(ScriptedPlatform, TheGuardWritesNoWordThatItCouldNotRead) {
+    PX_Scripted_Platform machine;
+    machine.write_control_word(0x0108021F);
+    machine.fail("_controlfp_s");
+    {
+        const PX_Use_Platform use(machine);
+        const PX_Floating_Point_Guard guard;
+    }
+    EXPECT_EQ(machine.count_of("_controlfp_s"), 1);
+    EXPECT_EQ(machine.control_word(), 0x0108021FU);
+}

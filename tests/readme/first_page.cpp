@@ -26,6 +26,8 @@ int main() {
         strings->set_one_ability(PX_Ability_Value::Ability_Fixed, Datum::Termination_String);
         plotter->set_plotter_capabilities(factory->MK_Create_Plotter_Capabilities(L"", L"", L""));
         plotter->get_plotter_capabilities()->set_init_term_capabilities(strings.get());
+        const PX_Smart_Pointer paper(factory->MK_Create_Media_Capabilities());
+        plotter->get_plotter_capabilities()->set_media_capabilities(paper.get());
 
         // What the user has chosen, perhaps for another device.
         unsigned char reset[] = {0x1B, 'E'};
@@ -34,6 +36,8 @@ int main() {
         choice->set_termination_string(reset, sizeof reset);
         plotter->set_plotter_configuration(factory->MK_Create_Plotter_Configuration(L"", L"", L""));
         plotter->get_plotter_configuration()->set_init_term_configuration(choice.get());
+        const PX_Smart_Pointer sheet(factory->MK_Create_Media_Configuration());
+        plotter->get_plotter_configuration()->set_media_configuration(sheet.get());
 
         // Bring the choice in line with the device, and see what is left of it.
         const auto validator = plotter->get_plotter_validator();

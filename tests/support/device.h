@@ -16,10 +16,14 @@ public:
         plotter->set_meta_capabilities(factory->MK_Create_Meta_Capabilities());
         PX_Plotter_Capabilities* const caps = factory->MK_Create_Plotter_Capabilities(L"", L"", L"");
         plotter->set_plotter_capabilities(caps);
+        caps->set_media_capabilities(
+            PX_Smart_Pointer<PX_Media_Capabilities>(factory->MK_Create_Media_Capabilities()).get());
         caps->set_init_term_capabilities(
             PX_Smart_Pointer<PX_InitTerm_Capabilities>(factory->MK_Create_InitTerm_Capabilities()).get());
         PX_Plotter_Configuration* const cfg = factory->MK_Create_Plotter_Configuration(L"", L"", L"");
         plotter->set_plotter_configuration(cfg);
+        cfg->set_media_configuration(
+            PX_Smart_Pointer<PX_Media_Configuration>(factory->MK_Create_Media_Configuration()).get());
         cfg->set_init_term_configuration(
             PX_Smart_Pointer<PX_InitTerm_Configuration>(factory->MK_Create_InitTerm_Configuration()).get());
     }
@@ -27,6 +31,12 @@ public:
     PX_Plotter_Definition* operator->() const { return m_plotter.get(); }
     PX_Plotter_Definition* get() const { return m_plotter.get(); }
     PX_Smart_Pointer<PX_Plotter_Validator> validator() const { return m_plotter->get_plotter_validator(); }
+    PX_Smart_Pointer<PX_Media_Capabilities> media_caps() const {
+        return m_plotter->get_plotter_capabilities()->get_media_capabilities();
+    }
+    PX_Smart_Pointer<PX_Media_Configuration> media_cfg() const {
+        return m_plotter->get_plotter_configuration()->get_media_configuration();
+    }
     PX_Smart_Pointer<PX_InitTerm_Capabilities> init_term_caps() const {
         return m_plotter->get_plotter_capabilities()->get_init_term_capabilities();
     }

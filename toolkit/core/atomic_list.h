@@ -3,49 +3,24 @@
 #include <new>
 #include <utility>
 
-#include "toolkit/core/smart_pointer.h"
+#include "toolkit/core/list_node.h"
 #include "toolkit/host/object.h"
 
 // A singly linked list of values: each node holds a counted copy of its own.
 template <class T>
 class PX_TEMPLATE_EXPORT PX_Atomic_Object_List : public PX_Object {
 protected:
-    class PX_TEMPLATE_EXPORT Node : public PX_Object {
-    public:
-        explicit Node(const T& value) : m_element(new T(value)) {}
-
-        PX_Smart_Pointer<T> m_element;
-        Node* m_next = nullptr;
-    };
+    using Node = PX_List_Node<T>;
 
 public:
-    // A walk over the list from its head.
-    class PX_TEMPLATE_EXPORT iterator : public PX_Object {
-    public:
-        bool has_next() const { return m_current != nullptr; }
-        // The current value, and on to the next one; null at the end.
-        PX_Smart_Pointer<T> next() {
-            if (!m_current)
-                return m_list->m_null_element;
-            const Node* const passed = m_current;
-            m_current = passed->m_next;
-            return passed->m_element;
-        }
-
-    private:
-        friend class PX_Atomic_Object_List;
-        explicit iterator(const PX_Atomic_Object_List* list) : m_current(list->m_head), m_list(list) {}
-
-        Node* m_current;
-        const PX_Atomic_Object_List* m_list;
-    };
+    using iterator = PX_List_Iterator<T>;
 
     PX_Atomic_Object_List() = default;
     PX_Atomic_Object_List(const PX_Atomic_Object_List&) = delete;
     PX_Atomic_Object_List& operator=(const PX_Atomic_Object_List&) = delete;
     ~PX_Atomic_Object_List() override { delete_nodes(); }
 
-    // Adds a copy at the tail. There is no tail pointer: the list is walked.
+    // Adds a copy at the tail. There is no tail pointer: the list is walked. No memory is std::bad_alloc.
     virtual void append(const T& value) {
         Node** link = &m_head;
         while (*link)
@@ -60,11 +35,11 @@ public:
 
     int size() const { return m_count; }
     // The caller deletes the iterator, which must not outlive the list. Null when there is no memory.
-    iterator* get_iterator() const { return new iterator(this); }
+    iterator* get_iterator() const { return new iterator(m_head); }
 
 protected:
     Node* new_node(const T& value) {
-        Node* const added = new Node(value);
+        Node* const added = new Node(new T(value));
         if (!added)
             throw std::bad_alloc();
         ++m_count;
@@ -77,11 +52,7 @@ protected:
 
 private:
     void delete_nodes() {
-        while (m_head) {
-            Node* const gone = m_head;
-            m_head = gone->m_next;
-            delete gone;
-        }
+        px_delete_nodes(m_head);
         m_count = 0;
     }
 };

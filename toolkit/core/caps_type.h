@@ -1,5 +1,7 @@
 #pragma once
 
+#include "toolkit/core/smart_pointer.h"
+
 // Where an entry of a catalogue comes from.
 struct PX_Caps_Type {
     enum Enum : int {
@@ -9,3 +11,9 @@ struct PX_Caps_Type {
         Caps_Type_Withdrawn = 3,  // stands in its list and is treated as absent
     };
 };
+
+// An entry that was found and is not withdrawn.
+template <class Entry>
+bool px_is_there(const PX_Smart_Pointer<Entry>& entry) {
+    return entry && entry->get_caps_type() != PX_Caps_Type::Caps_Type_Withdrawn;
+}

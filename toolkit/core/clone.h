@@ -4,7 +4,6 @@
 #include <new>
 
 #include "toolkit/core/frame.h"
-#include "toolkit/core/smart_pointer.h"
 
 // A new object of the standard class with its properties copied by `copy(new_one)`, which uses the new
 // object's setters. No memory for it or for what it holds is MVNK_Memory_Exception 1101, detail "new_one";
@@ -20,14 +19,4 @@ Std* px_clone(const wchar_t* function, const wchar_t* file, Copy&& copy) {
     } catch (const std::bad_alloc&) {
     }
     throw MVNK_Memory_Exception(PX_Code::No_Memory, function, L"new_one", file);
-}
-
-// A clone of `source`, which is not null, takes the place of what `field` held, in the frame of `function`. A
-// clone that did not come into being is MVNK_Memory_Exception 1101, and the field stays.
-template <class T>
-void px_store_clone(PX_Smart_Pointer<T>& field, const T* source, const wchar_t* function,
-                    const wchar_t* detail, const wchar_t* file) {
-    T* const clone = px_frame(function, [&] { return source->clone(); });
-    px_require_made(clone, function, detail, file);
-    field = clone;
 }

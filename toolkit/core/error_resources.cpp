@@ -12,13 +12,12 @@ constexpr wchar_t module_name[] = L"mvnres11.dll";
 constexpr wchar_t default_language[] = L"en-US";
 constexpr DWORD path_capacity = 260;
 
-// The module, and the platform that loaded it: a handle says nothing to another one.
+// The current platform's: it is freed before another one comes.
 HMODULE cached = nullptr;
-PX_Platform* cached_by = nullptr;
 
-void free_cached(bool /*unloading*/) {
-    if (cached && cached_by == &PX_Get_Platform())
-        cached_by->FreeLibrary(cached);
+void free_cached() {
+    if (cached)
+        PX_Get_Platform().FreeLibrary(cached);
     cached = nullptr;
 }
 
@@ -55,18 +54,17 @@ std::wstring product_language(PX_Platform& platform) {
 }  // namespace
 
 unsigned long long GetMVNErrResHandle() {
-    auto& platform = PX_Get_Platform();
-    if (cached_by != &platform)
-        cached = nullptr;
     if (!cached) {
-        cached_by = &platform;
+        auto& platform = PX_Get_Platform();
         cached = platform.LoadLibraryExW(module_name, nullptr, 0);
         if (!cached) {
             const std::wstring name = product_language(platform) + platform.path_separator() + module_name;
             cached = platform.LoadLibraryExW(name.c_str(), nullptr, 0);
         }
-        if (cached)
-            px_at_module_exit(PX_Exit_Step::Resources, free_cached);
+        if (cached) {
+            px_before_platform_exchange(free_cached);
+            px_at_module_exit(PX_Exit_Step::Resources, [](bool) { free_cached(); });
+        }
     }
     return reinterpret_cast<unsigned long long>(cached);
 }

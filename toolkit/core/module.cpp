@@ -6,7 +6,7 @@
 #include <cstddef>
 #include <utility>
 
-#include "toolkit/platform/platform.h"
+#include "toolkit/platform/back_end.h"
 
 namespace {
 

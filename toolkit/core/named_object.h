@@ -1,39 +1,59 @@
 #pragma once
 
 #include "toolkit/core/caps_type.h"
+#include "toolkit/core/clone.h"
 #include "toolkit/core/frame.h"
 #include "toolkit/host/object.h"
 #include "toolkit/host/string.h"
 
-// How a class reports a null canonical name.
-struct PX_Null_Name {
-    unsigned int code;
-    const wchar_t* function;
-    const wchar_t* detail;
+// What a named class says of itself in its failures.
+struct PX_Naming {
+    const wchar_t* set_canonical_name;  // the names of its functions
+    const wchar_t* clone;
     const wchar_t* file;
+    unsigned int null_code;  // what a null canonical name is reported with
+    const wchar_t* null_detail;
 };
+#define PX_NAMING(class_name, source)                                                 \
+    PX_Naming {                                                                       \
+        class_name L"::set_canonical_name", class_name L"::clone", (source).file_tag, \
+            PX_Code::Null_Argument, L"canonical_name"                                 \
+    }
+#define PX_NAMING_WITH(class_name, source, null_code, null_detail)                                           \
+    PX_Naming {                                                                                              \
+        class_name L"::set_canonical_name", class_name L"::clone", (source).file_tag, null_code, null_detail \
+    }
 
-// The two names that every catalogue object has. `Self` is the class itself; it tells how it reports a null
-// canonical name in a static member `null_name`.
+// The two names that every catalogue object has, and its clone. `Self` is the class itself; it has a static
+// `naming`, and `copy_properties_to(Contract&) const`, which copies what is its own by the new object's
+// setters.
 template <class Contract, class Self>
 class PX_Named_Pair : public Contract, public PX_Object {
 public:
+    PX_Named_Pair() = default;
+    // A copy would share what the class holds by counted pointers: clone is the operation that copies.
+    PX_Named_Pair(const PX_Named_Pair&) = delete;
+    PX_Named_Pair& operator=(const PX_Named_Pair&) = delete;
+
     const wchar_t* get_canonical_name() const override { return m_canonical_name; }
     const wchar_t* get_localized_name() const override { return m_localized_name; }
     void set_canonical_name(const wchar_t* name) override {
+        constexpr const PX_Naming& naming = Self::naming;
         m_canonical_name = name;
-        if (!name) {
-            constexpr const PX_Null_Name& error = Self::null_name;
-            throw MVNK_Error(error.code, error.function, error.detail, error.file);
-        }
+        if (!name)
+            throw MVNK_Error(naming.null_code, naming.set_canonical_name, naming.null_detail, naming.file);
     }
     void set_localized_name(const wchar_t* name) override { m_localized_name = name; }
 
-protected:
-    // The first thing that a clone copies.
-    void copy_names_to(Contract& new_one) const {
-        new_one.set_canonical_name(m_canonical_name);
-        new_one.set_localized_name(m_localized_name);
+    // The names first, where the entry comes from last.
+    auto clone() const -> decltype(static_cast<const Contract*>(nullptr)->clone()) override {
+        return px_clone<Self>(Self::naming.clone, Self::naming.file, [this](Self& new_one) {
+            new_one.set_canonical_name(m_canonical_name);
+            new_one.set_localized_name(m_localized_name);
+            static_cast<const Self*>(this)->copy_properties_to(new_one);
+            if constexpr (requires(Contract & entry) { entry.get_caps_type(); })
+                new_one.set_caps_type(static_cast<const Self*>(this)->get_caps_type());
+        });
     }
 
 private:

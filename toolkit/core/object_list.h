@@ -3,43 +3,17 @@
 #include <cwchar>
 #include <new>
 
-#include "toolkit/core/smart_pointer.h"
+#include "toolkit/core/list_node.h"
 #include "toolkit/host/object.h"
 
 // A singly linked list of shared objects. A lookup that finds nothing gives a null pointer and throws
 // nothing.
 template <class T>
 class PX_TEMPLATE_EXPORT PX_Object_List : public PX_Object {
-    class PX_TEMPLATE_EXPORT Node : public PX_Object {
-    public:
-        explicit Node(PX_Smart_Pointer<T> element) : m_element(std::move(element)) {}
-
-        PX_Smart_Pointer<T> m_element;
-        Node* m_next = nullptr;
-    };
+    using Node = PX_List_Node<T>;
 
 public:
-    // A walk over the list from its head. The element that was just returned may be removed: keep it in a
-    // counted pointer meanwhile.
-    class PX_TEMPLATE_EXPORT iterator : public PX_Object {
-    public:
-        bool has_next() const { return m_current != nullptr; }
-        // The current element, and on to the next one; null at the end.
-        PX_Smart_Pointer<T> next() {
-            if (!m_current)
-                return m_list->m_null_element;
-            const Node* const passed = m_current;
-            m_current = passed->m_next;
-            return passed->m_element;
-        }
-
-    private:
-        friend class PX_Object_List;
-        explicit iterator(const PX_Object_List* list) : m_current(list->m_head), m_list(list) {}
-
-        Node* m_current;
-        const PX_Object_List* m_list;
-    };
+    using iterator = PX_List_Iterator<T>;
 
     // What a range-for reads: each element in place, without counting it.
     class const_iterator {
@@ -64,7 +38,8 @@ public:
     int size() const { return m_count; }
     bool is_empty() const { return !m_head; }
 
-    // Adds at the tail. The element is shared: whoever wants a copy clones first.
+    // Adds at the tail. The element is shared: whoever wants a copy clones first. No memory is
+    // std::bad_alloc, here and below.
     void append(PX_Smart_Pointer<T> element) {
         Node* const added = new_node(std::move(element));
         (m_tail ? m_tail->m_next : m_head) = added;
@@ -108,17 +83,13 @@ public:
     }
 
     void clear() {
-        while (m_head) {
-            Node* const gone = m_head;
-            m_head = gone->m_next;
-            delete gone;
-        }
+        px_delete_nodes(m_head);
         m_tail = nullptr;
         m_count = 0;
     }
 
     // The caller deletes the iterator, which must not outlive the list. Null when there is no memory.
-    iterator* get_iterator() const { return new iterator(this); }
+    iterator* get_iterator() const { return new iterator(m_head); }
 
     const_iterator begin() const { return const_iterator(m_head); }
     const_iterator end() const { return const_iterator(nullptr); }

@@ -20,9 +20,10 @@ public:
     PX_Smart_Pointer(PX_Smart_Pointer&& other) noexcept : m_object(std::exchange(other.m_object, nullptr)) {}
     ~PX_Smart_Pointer() { release(); }
 
-    // Every assignment releases the old object before it takes the new one. So an object that only this
-    // pointer holds, or only the object that goes, is deleted when it is assigned, and the pointer is left
-    // null. Moving takes the new one over first.
+    // Every assignment releases the old object before it takes the new one. The very object that this pointer
+    // alone holds is deleted by assigning it, and so is a counted one that only the object that goes holds;
+    // the pointer is then left null. A plain pointer must not be one that only the old object holds: nothing
+    // tells that it is gone. Moving takes the new one over first.
     PX_Smart_Pointer& operator=(T* object) {
         T* const held = m_object;
         if (release() && object == held)

@@ -17,6 +17,7 @@
 #include "toolkit/host/string.h"
 #include "toolkit/marvcon/std_init_term_cfg.h"
 #include "toolkit/marvcon/std_io_cfg/line_settings.h"
+#include "toolkit/marvcon/std_media_cfg.h"
 #include "toolkit/marvcon/std_meta_cfg.h"
 #include "toolkit/marvcon/std_plotter_def.h"
 #include "toolkit/marvcon/std_plval.h"

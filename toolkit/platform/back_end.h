@@ -3,7 +3,13 @@
 #include <cstddef>
 #include <string_view>
 
+#include "toolkit/platform/platform.h"
 #include "toolkit/platform/win_types.h"
+
+// What each real back end defines: the machine's own platform, and the call that is made when the toolkit's
+// module is unloaded or the process ends, after the host's own objects are gone.
+PX_Platform& px_native_platform();
+void px_call_at_unload(void (*function)());
 
 // What the back ends share, so that a program cannot tell them apart by the edges.
 

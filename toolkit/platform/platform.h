@@ -72,7 +72,6 @@ PX_EXPORT PX_Platform& PX_Get_Platform();
 // the machine's own back. The platform stays the caller's and outlives its use.
 PX_EXPORT PX_Platform* PX_Set_Platform(PX_Platform* platform);
 
-// What each back end of the build defines: the machine's own platform, and the call that is made when the
-// toolkit's module is unloaded or the process ends, after the host's own objects are gone.
-PX_Platform& px_native_platform();
-void px_call_at_unload(void (*function)());
+// Has `function` called before another platform takes the place of the current one, which is the one to give
+// back what was had from it. A function is kept once.
+PX_EXPORT void px_before_platform_exchange(void (*function)());

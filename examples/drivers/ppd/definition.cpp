@@ -2,9 +2,14 @@
 
 #include "examples/common/made.h"
 #include "examples/drivers/ppd/init_term.h"
+#include "examples/drivers/ppd/media.h"
 #include "examples/drivers/ppd/meta.h"
 
 Ppd_Class_Factory::Ppd_Class_Factory(std::shared_ptr<const Ppd_File> file) : m_file(std::move(file)) {
+}
+
+PX_Media_Validator* Ppd_Class_Factory::MK_Create_Media_Validator(PX_Plotter_Definition* plotter) const {
+    return new Ppd_Media_Validator(plotter);
 }
 
 PX_InitTerm_Validator* Ppd_Class_Factory::MK_Create_InitTerm_Validator(PX_Plotter_Definition* plotter) const {
@@ -27,6 +32,7 @@ Ppd_Definition::Ppd_Definition(PX_Smart_Pointer<PX_Error_Handler> handler,
                  family->get_canonical_name(), family->get_canonical_name(), model->get_canonical_name()),
              L"m_plotter_capabilities");
     m_plotter_capabilities->set_init_term_capabilities(ppd_init_term_capabilities(*file, factory).get());
+    m_plotter_capabilities->set_media_capabilities(ppd_media_capabilities(*file, factory).get());
 }
 
 PX_Smart_Pointer<PX_Plotter_Definition> open_ppd_device(const std::filesystem::path& description,

@@ -11,6 +11,7 @@ class Ppd_Class_Factory : public PX_Std_Plotter_Class_Factory {
 public:
     explicit Ppd_Class_Factory(std::shared_ptr<const Ppd_File> file);
 
+    PX_Media_Validator* MK_Create_Media_Validator(PX_Plotter_Definition* plotter) const override;
     PX_InitTerm_Validator* MK_Create_InitTerm_Validator(PX_Plotter_Definition* plotter) const override;
 
 private:

@@ -6,7 +6,11 @@
 
 #include <cups/ppd.h>
 
+#include <algorithm>
 #include <cerrno>
+#include <cmath>
+#include <cstring>
+#include <span>
 #include <system_error>
 
 #include "examples/common/text.h"
@@ -42,6 +46,22 @@ std::string or_empty(const char* string) {
     return string ? string : "";
 }
 
+template <class Item>
+std::span<const Item> items(const Item* first, int count) {
+    return {first, first ? static_cast<std::size_t>(std::max(count, 0)) : 0};
+}
+
+bool has_choice(const std::vector<Ppd_Choice>& choices, const std::wstring& name) {
+    return std::ranges::find(choices, name, &Ppd_Choice::name) != choices.end();
+}
+
+// A choice of a constraint. Left blank, it stands for all choices that do something.
+bool covers(const char* constrained, const Ppd_Choice& choice) {
+    if (*constrained)
+        return text::from_utf8(constrained) == choice.name;
+    return choice.name != L"None" && choice.name != L"Off" && choice.name != L"False";
+}
+
 }  // namespace
 
 void Ppd_File::Closer::operator()(ppd_file_s* file) const {
@@ -73,4 +93,83 @@ std::string Ppd_File::enter_language() const {
 
 std::string Ppd_File::job_end() const {
     return or_empty(m_file->jcl_end);
+}
+
+Ppd_Option Ppd_File::option(const char* keyword) const {
+    Ppd_Option option;
+    const ppd_option_t* const found = ppdFindOption(m_file.get(), keyword);
+    if (!found)
+        return option;
+    for (const ppd_choice_t& choice : items(found->choices, found->num_choices)) {
+        const std::wstring name = text::from_utf8(choice.choice);
+        // The library offers a value of the user's own as a choice too.
+        if (name.empty() || name == L"Custom" || has_choice(option.choices, name))
+            continue;
+        const std::wstring shown = text::from_utf8(text::on_one_line(choice.text));
+        option.choices.push_back({name, shown.empty() ? name : shown});
+    }
+    option.default_choice = text::from_utf8(found->defchoice);
+    if (!has_choice(option.choices, option.default_choice))
+        option.default_choice = option.choices.empty() ? L"" : option.choices.front().name;
+    return option;
+}
+
+std::vector<Ppd_Size> Ppd_File::sizes() const {
+    std::vector<Ppd_Size> sizes;
+    const std::vector<Ppd_Choice> shown = option("PageSize").choices;
+    for (const ppd_size_t& size : items(m_file->sizes, m_file->num_sizes)) {
+        const std::wstring name = text::from_utf8(size.name);
+        const bool is_sheet = std::isnormal(size.width) && std::isnormal(size.length) && size.width > 0 &&
+                              size.length > 0 && name != L"Custom";
+        if (name.empty() || !is_sheet || std::ranges::find(sizes, name, &Ppd_Size::name) != sizes.end())
+            continue;
+        const auto choice = std::ranges::find(shown, name, &Ppd_Choice::name);
+        sizes.push_back({{name, choice == shown.end() ? name : choice->text},
+                         size.width,
+                         size.length,
+                         size.left,
+                         size.bottom,
+                         size.right,
+                         size.top});
+        Ppd_Size& added = sizes.back();
+        // Bounds that count both ends need more than one point between them.
+        if (!(added.right - added.left > 1.0F && added.top - added.bottom > 1.0F)) {
+            added.left = added.bottom = 0;
+            added.right = added.width;
+            added.top = added.height;
+        }
+    }
+    return sizes;
+}
+
+std::optional<std::pair<float, float>> Ppd_File::largest_custom_size() const {
+    const float* const most = m_file->custom_max;
+    if (!m_file->variable_sizes || !(most[0] > 0) || !(most[1] > 0))
+        return std::nullopt;
+    return std::pair(most[0], most[1]);
+}
+
+std::set<std::pair<std::wstring, std::wstring>> Ppd_File::slots_without_sizes() const {
+    std::set<std::pair<std::wstring, std::wstring>> apart;
+    const std::vector<Ppd_Choice> slots = option("InputSlot").choices;
+    const std::vector<Ppd_Choice> sizes = option("PageSize").choices;
+    const auto add = [&](const char* of_slot, const char* of_size) {
+        for (const Ppd_Choice& slot : slots) {
+            if (!covers(of_slot, slot))
+                continue;
+            for (const Ppd_Choice& size : sizes) {
+                if (covers(of_size, size))
+                    apart.emplace(slot.name, size.name);
+            }
+        }
+    };
+    for (const ppd_const_t& constraint : items(m_file->consts, m_file->num_consts)) {
+        if (std::strcmp(constraint.option1, "InputSlot") == 0 &&
+            std::strcmp(constraint.option2, "PageSize") == 0)
+            add(constraint.choice1, constraint.choice2);
+        if (std::strcmp(constraint.option1, "PageSize") == 0 &&
+            std::strcmp(constraint.option2, "InputSlot") == 0)
+            add(constraint.choice2, constraint.choice1);
+    }
+    return apart;
 }

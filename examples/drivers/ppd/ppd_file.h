@@ -2,8 +2,12 @@
 
 #include <filesystem>
 #include <memory>
+#include <optional>
+#include <set>
 #include <stdexcept>
 #include <string>
+#include <utility>
+#include <vector>
 
 struct ppd_file_s;
 
@@ -12,6 +16,29 @@ struct ppd_file_s;
 class Ppd_Error : public std::runtime_error {
 public:
     using std::runtime_error::runtime_error;
+};
+
+// One choice of an option, under its name in the file and as a person reads it.
+struct Ppd_Choice {
+    std::wstring name;
+    std::wstring text;
+};
+
+// An option of the device, such as "InputSlot". No two choices bear the same name; the default is one of
+// them. No choices at all stand for an option that the file has not.
+struct Ppd_Option {
+    std::vector<Ppd_Choice> choices;
+    std::wstring default_choice;
+};
+
+// A sheet with its printable area, in points from the lower left corner.
+struct Ppd_Size : Ppd_Choice {
+    float width;
+    float height;
+    float left;
+    float bottom;
+    float right;
+    float top;
 };
 
 // A PostScript printer description that has been read. The only part of the driver that knows the library
@@ -31,6 +58,18 @@ public:
     std::string job_begin() const;
     std::string enter_language() const;
     std::string job_end() const;
+
+    // By its keyword. A default that names no choice gives way to the first choice.
+    Ppd_Option option(const char* keyword) const;
+
+    // The sheets of fixed size, in the order of the file, each name once. A sheet without extent is left out;
+    // a printable area that holds nothing is the whole sheet.
+    std::vector<Ppd_Size> sizes() const;
+    // Width and height, in points, of the largest sheet of the user's own; nothing when there is no such
+    // sheet.
+    std::optional<std::pair<float, float>> largest_custom_size() const;
+    // The slots and sizes that the constraints of the file keep apart, by their names.
+    std::set<std::pair<std::wstring, std::wstring>> slots_without_sizes() const;
 
 private:
     struct Closer {

@@ -63,7 +63,8 @@ void PX_Std_InitTerm_Configuration::set_termination_string(const PX_Dev_String* 
 }
 
 void PX_Std_InitTerm_Configuration::store(String& string, PX_Dev_String* new_one, Datum::Enum datum) {
-    string = new_one;
+    // Counted before the old string goes: a failure leaves that one.
+    string = String(new_one);
     clear_flags_of(datum);
 }
 

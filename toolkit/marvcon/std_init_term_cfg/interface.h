@@ -60,7 +60,8 @@ public:
 };
 
 // The strings themselves. Every setter copies its bytes and marks its datum as neither validated nor default,
-// also when the bytes are the same as before. A flag outside the enum throws PX_Severe_Error 1104.
+// also when the bytes are the same as before. No memory for them is std::bad_alloc, and the old string stays.
+// A flag outside the enum throws PX_Severe_Error 1104.
 class PX_EXPORT PX_InitTerm_Configuration {
 public:
     virtual ~PX_InitTerm_Configuration();

@@ -3,6 +3,7 @@
 #include <new>
 
 #include "toolkit/core/clone.h"
+#include "toolkit/core/fields.h"
 #include "toolkit/marvcon/std_meta_cfg/catalogue.h"
 #include "toolkit/marvcon/std_meta_cfg/required_text.h"
 

@@ -8,6 +8,9 @@ class PX_EXPORT PX_Std_Meta_Capabilities : public PX_Meta_Capabilities, public P
 public:
     // No memory for the family or the model is std::bad_alloc.
     PX_Std_Meta_Capabilities();
+    // A copy would share the family and the model: clone is the operation that copies.
+    PX_Std_Meta_Capabilities(const PX_Std_Meta_Capabilities&) = delete;
+    PX_Std_Meta_Capabilities& operator=(const PX_Std_Meta_Capabilities&) = delete;
 
     const wchar_t* get_driver_pathname() const override;
     const wchar_t* get_driver_version() const override;

@@ -1,19 +1,10 @@
 #include "toolkit/marvcon/std_meta_cfg/catalogue.h"
 
-#include "toolkit/core/clone.h"
 #include "toolkit/marvcon/std_meta_cfg/required_text.h"
 
 PX_Caps_Name_List_Object::~PX_Caps_Name_List_Object() = default;
 PX_Family::~PX_Family() = default;
 PX_Model::~PX_Model() = default;
-
-PX_Caps_Name_List_Object* PX_Std_Caps_Name_List_Object::clone() const {
-    return px_clone<PX_Std_Caps_Name_List_Object>(L"PX_Std_Caps_Name_List_Object::clone",
-                                                  px_std_meta_cfg_source.file_tag, [this](auto& new_one) {
-                                                      copy_names_to(new_one);
-                                                      new_one.set_caps_type(get_caps_type());
-                                                  });
-}
 
 void PX_Std_Family::supports_user_defined_model(bool supported) {
     m_supports_user_defined_model = supported;
@@ -23,12 +14,8 @@ bool PX_Std_Family::supports_user_defined_model() const {
     return m_supports_user_defined_model;
 }
 
-PX_Family* PX_Std_Family::clone() const {
-    return px_clone<PX_Std_Family>(L"PX_Std_Family::clone", px_std_meta_cfg_source.file_tag,
-                                   [this](auto& new_one) {
-                                       copy_names_to(new_one);
-                                       new_one.supports_user_defined_model(m_supports_user_defined_model);
-                                   });
+void PX_Std_Family::copy_properties_to(PX_Family& new_one) const {
+    new_one.supports_user_defined_model(m_supports_user_defined_model);
 }
 
 const wchar_t* PX_Std_Model::get_user_defined_model_pathname() const {
@@ -122,21 +109,17 @@ void PX_Std_Model::set_file_only(bool on) {
     m_file_only = on;
 }
 
-PX_Model* PX_Std_Model::clone() const {
-    return px_clone<PX_Std_Model>(L"PX_Std_Model::clone", px_std_meta_cfg_source.file_tag,
-                                  [this](auto& new_one) {
-                                      copy_names_to(new_one);
-                                      new_one.set_user_defined_model_pathname(m_user_defined_model_pathname);
-                                      new_one.set_user_defined_model_basename(m_user_defined_model_basename);
-                                      new_one.set_win_device_name(m_win_device_name);
-                                      new_one.set_win_driver_name(m_win_driver_name);
-                                      new_one.set_short_net_name(m_short_net_name);
-                                      new_one.set_friendly_net_name(m_friendly_net_name);
-                                      new_one.set_dm_driver_version(m_dm_driver_version);
-                                      new_one.set_default_system_cfg(m_default_system_cfg);
-                                      new_one.set_platform(m_platform);
-                                      new_one.set_locale(m_locale);
-                                      new_one.set_file_only(m_file_only);
-                                      new_one.set_abilities(get_abilities());
-                                  });
+void PX_Std_Model::copy_properties_to(PX_Model& new_one) const {
+    new_one.set_user_defined_model_pathname(m_user_defined_model_pathname);
+    new_one.set_user_defined_model_basename(m_user_defined_model_basename);
+    new_one.set_win_device_name(m_win_device_name);
+    new_one.set_win_driver_name(m_win_driver_name);
+    new_one.set_short_net_name(m_short_net_name);
+    new_one.set_friendly_net_name(m_friendly_net_name);
+    new_one.set_dm_driver_version(m_dm_driver_version);
+    new_one.set_default_system_cfg(m_default_system_cfg);
+    new_one.set_platform(m_platform);
+    new_one.set_locale(m_locale);
+    new_one.set_file_only(m_file_only);
+    new_one.set_abilities(get_abilities());
 }

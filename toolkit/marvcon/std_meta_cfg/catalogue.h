@@ -7,21 +7,19 @@
 class PX_EXPORT PX_Std_Caps_Name_List_Object
     : public PX_Named_Head<PX_Caps_Name_List_Object, PX_Std_Caps_Name_List_Object> {
 public:
-    static constexpr PX_Null_Name null_name{PX_Code::Null_Argument,
-                                            L"PX_Std_Caps_Name_List_Object::set_canonical_name",
-                                            L"canonical_name", px_std_meta_cfg_source.file_tag};
+    static constexpr PX_Naming naming = PX_NAMING(L"PX_Std_Caps_Name_List_Object", px_std_meta_cfg_source);
 
-    PX_Caps_Name_List_Object* clone() const override;
+    void copy_properties_to(PX_Caps_Name_List_Object& /*new_one*/) const {}
 };
 
 class PX_EXPORT PX_Std_Family : public PX_Named_Pair<PX_Family, PX_Std_Family> {
 public:
-    static constexpr PX_Null_Name null_name{901, L"PX_Std_Family::set_canonical_name", L"canonical_name",
-                                            px_std_meta_cfg_source.file_tag};
+    static constexpr PX_Naming naming =
+        PX_NAMING_WITH(L"PX_Std_Family", px_std_meta_cfg_source, 901, L"canonical_name");
 
     void supports_user_defined_model(bool supported) override;
     bool supports_user_defined_model() const override;
-    PX_Family* clone() const override;
+    void copy_properties_to(PX_Family& new_one) const;
 
 private:
     bool m_supports_user_defined_model = false;
@@ -30,8 +28,8 @@ private:
 class PX_EXPORT PX_Std_Model
     : public PX_Named_Pair<PX_Ability_Accessors<PX_Model, PX_Model_Ability>, PX_Std_Model> {
 public:
-    static constexpr PX_Null_Name null_name{902, L"PX_Std_Model::set_canonical_name", L"canonical_name",
-                                            px_std_meta_cfg_source.file_tag};
+    static constexpr PX_Naming naming =
+        PX_NAMING_WITH(L"PX_Std_Model", px_std_meta_cfg_source, 902, L"canonical_name");
 
     const wchar_t* get_user_defined_model_pathname() const override;
     const wchar_t* get_user_defined_model_basename() const override;
@@ -57,7 +55,7 @@ public:
     void set_locale(const wchar_t* text) override;
     void set_file_only(bool on) override;
 
-    PX_Model* clone() const override;
+    void copy_properties_to(PX_Model& new_one) const;
 
 private:
     PX_String m_user_defined_model_pathname;

@@ -1,14 +1,15 @@
 #include "toolkit/marvcon/std_plotter_def/capabilities.h"
 
 #include "toolkit/core/clone.h"
+#include "toolkit/core/fields.h"
 #include "toolkit/marvcon/std_init_term_cfg/interface.h"
+#include "toolkit/marvcon/std_media_cfg/interface.h"
 #include "toolkit/marvcon/std_plotter_def/pending.h"
 
 namespace {
 
 template <class Domain>
 void store(PX_Smart_Pointer<Domain>& field, const Domain* capabilities, const wchar_t* function) {
-    px_require_argument(capabilities, function, L"capabilities", px_std_plotter_def_source.file_tag);
     px_store_clone(field, capabilities, function, L"capabilities", px_std_plotter_def_source.file_tag);
 }
 

@@ -6,6 +6,9 @@
 class PX_EXPORT PX_Std_Plotter_Capabilities : public PX_Plotter_Capabilities, public PX_Object {
 public:
     PX_Std_Plotter_Capabilities();
+    // A copy would share the domains: clone is the operation that copies.
+    PX_Std_Plotter_Capabilities(const PX_Std_Plotter_Capabilities&) = delete;
+    PX_Std_Plotter_Capabilities& operator=(const PX_Std_Plotter_Capabilities&) = delete;
     ~PX_Std_Plotter_Capabilities() override;
 
     PX_Smart_Pointer<PX_Media_Capabilities> get_media_capabilities() const override;

@@ -6,6 +6,11 @@
 #include "toolkit/marvcon/std_init_term_cfg/capabilities.h"
 #include "toolkit/marvcon/std_init_term_cfg/configuration.h"
 #include "toolkit/marvcon/std_init_term_cfg/validator.h"
+#include "toolkit/marvcon/std_media_cfg/capabilities.h"
+#include "toolkit/marvcon/std_media_cfg/catalogue.h"
+#include "toolkit/marvcon/std_media_cfg/configuration.h"
+#include "toolkit/marvcon/std_media_cfg/settings.h"
+#include "toolkit/marvcon/std_media_cfg/validator.h"
 #include "toolkit/marvcon/std_meta_cfg/capabilities.h"
 #include "toolkit/marvcon/std_meta_cfg/catalogue.h"
 #include "toolkit/marvcon/std_plotter_def/capabilities.h"
@@ -56,6 +61,107 @@ PX_Searchable_Atomic_Object_List<PX_Parity::Enum>* PX_Std_Plotter_Class_Factory:
 PX_Searchable_Atomic_Object_List<PX_Handshake::Enum>* PX_Std_Plotter_Class_Factory::MK_Create_Handshake_List()
     const {
     return create<PX_Searchable_Atomic_Object_List<PX_Handshake::Enum>>();
+}
+
+PX_Media_Capabilities* PX_Std_Plotter_Class_Factory::MK_Create_Media_Capabilities() const {
+    return create<PX_Std_Media_Capabilities>();
+}
+
+PX_Media_Configuration* PX_Std_Plotter_Class_Factory::MK_Create_Media_Configuration() const {
+    return create<PX_Std_Media_Configuration>();
+}
+
+PX_Media_Description* PX_Std_Plotter_Class_Factory::MK_Create_Media_Description() const {
+    return create<PX_Std_Media_Description>();
+}
+
+PX_Named_Object_List<PX_Media_Description>* PX_Std_Plotter_Class_Factory::MK_Create_Media_Description_List()
+    const {
+    return create<PX_Named_Object_List<PX_Media_Description>>();
+}
+
+PX_Media_Destination* PX_Std_Plotter_Class_Factory::MK_Create_Media_Destination() const {
+    return create<PX_Std_Media_Destination>();
+}
+
+PX_Media_Collating* PX_Std_Plotter_Class_Factory::MK_Create_Media_Collating() const {
+    return create<PX_Std_Media_Collating>();
+}
+
+PX_Media_Stapling* PX_Std_Plotter_Class_Factory::MK_Create_Media_Stapling() const {
+    return create<PX_Std_Media_Stapling>();
+}
+
+PX_Media_Cutting* PX_Std_Plotter_Class_Factory::MK_Create_Media_Cutting() const {
+    return create<PX_Std_Media_Cutting>();
+}
+
+PX_Media_Folding* PX_Std_Plotter_Class_Factory::MK_Create_Media_Folding() const {
+    return create<PX_Std_Media_Folding>();
+}
+
+PX_Media_Settings* PX_Std_Plotter_Class_Factory::MK_Create_Media_Settings() const {
+    return create<PX_Std_Media_Settings>();
+}
+
+PX_Named_Object_List<PX_Media_Collating>* PX_Std_Plotter_Class_Factory::MK_Create_Media_Collating_List()
+    const {
+    return create<PX_Named_Object_List<PX_Media_Collating>>();
+}
+
+PX_Named_Object_List<PX_Media_Stapling>* PX_Std_Plotter_Class_Factory::MK_Create_Media_Stapling_List() const {
+    return create<PX_Named_Object_List<PX_Media_Stapling>>();
+}
+
+PX_Named_Object_List<PX_Media_Cutting>* PX_Std_Plotter_Class_Factory::MK_Create_Media_Cutting_List() const {
+    return create<PX_Named_Object_List<PX_Media_Cutting>>();
+}
+
+PX_Named_Object_List<PX_Media_Folding>* PX_Std_Plotter_Class_Factory::MK_Create_Media_Folding_List() const {
+    return create<PX_Named_Object_List<PX_Media_Folding>>();
+}
+
+PX_Named_Object_List<PX_Media_Destination>* PX_Std_Plotter_Class_Factory::MK_Create_Media_Destination_List()
+    const {
+    return create<PX_Named_Object_List<PX_Media_Destination>>();
+}
+
+PX_Media_Size* PX_Std_Plotter_Class_Factory::MK_Create_Media_Size() const {
+    return create<PX_Std_Media_Size>();
+}
+
+PX_Named_Object_List<PX_Media_Size>* PX_Std_Plotter_Class_Factory::MK_Create_Media_Size_List() const {
+    return create<PX_Named_Object_List<PX_Media_Size>>();
+}
+
+PX_Media_Source* PX_Std_Plotter_Class_Factory::MK_Create_Media_Source() const {
+    return create<PX_Std_Media_Source>();
+}
+
+PX_Media_Source_Entry* PX_Std_Plotter_Class_Factory::MK_Create_Media_Source_Entry() const {
+    return create<PX_Std_Media_Source_Entry>();
+}
+
+PX_Named_Object_List<PX_Media_Source_Entry>* PX_Std_Plotter_Class_Factory::MK_Create_Media_Source_Entry_List()
+    const {
+    return create<PX_Named_Object_List<PX_Media_Source_Entry>>();
+}
+
+PX_Named_Object_List<PX_Media_Source>* PX_Std_Plotter_Class_Factory::MK_Create_Media_Source_List() const {
+    return create<PX_Named_Object_List<PX_Media_Source>>();
+}
+
+PX_Media_Validator* PX_Std_Plotter_Class_Factory::MK_Create_Media_Validator(
+    PX_Plotter_Definition* plotter) const {
+    return create<PX_Std_Media_Validator>(plotter);
+}
+
+PX_Media_Type* PX_Std_Plotter_Class_Factory::MK_Create_Media_Type() const {
+    return create<PX_Std_Media_Type>();
+}
+
+PX_Named_Object_List<PX_Media_Type>* PX_Std_Plotter_Class_Factory::MK_Create_Media_Type_List() const {
+    return create<PX_Named_Object_List<PX_Media_Type>>();
 }
 
 PX_Caps_Name_List_Object* PX_Std_Plotter_Class_Factory::MK_Create_Media_Size_In_Source() const {

@@ -1,14 +1,15 @@
 #include "toolkit/marvcon/std_plotter_def/configuration.h"
 
 #include "toolkit/core/clone.h"
+#include "toolkit/core/fields.h"
 #include "toolkit/marvcon/std_init_term_cfg/interface.h"
+#include "toolkit/marvcon/std_media_cfg/interface.h"
 #include "toolkit/marvcon/std_plotter_def/pending.h"
 
 namespace {
 
 template <class Domain>
 void store(PX_Smart_Pointer<Domain>& field, const Domain* configuration, const wchar_t* function) {
-    px_require_argument(configuration, function, L"configuration", px_std_plotter_def_source.file_tag);
     px_store_clone(field, configuration, function, L"configuration", px_std_plotter_def_source.file_tag);
 }
 

@@ -6,6 +6,9 @@
 class PX_EXPORT PX_Std_Plotter_Configuration : public PX_Plotter_Configuration, public PX_Object {
 public:
     PX_Std_Plotter_Configuration();
+    // A copy would share the domains: clone is the operation that copies.
+    PX_Std_Plotter_Configuration(const PX_Std_Plotter_Configuration&) = delete;
+    PX_Std_Plotter_Configuration& operator=(const PX_Std_Plotter_Configuration&) = delete;
     ~PX_Std_Plotter_Configuration() override;
 
     PX_Smart_Pointer<PX_Media_Configuration> get_media_configuration() const override;

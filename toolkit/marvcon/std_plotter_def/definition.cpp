@@ -1,6 +1,7 @@
 #include "toolkit/marvcon/std_plotter_def/definition.h"
 
 #include "toolkit/core/clone.h"
+#include "toolkit/core/fields.h"
 #include "toolkit/marvcon/std_meta_cfg/interface.h"
 #include "toolkit/marvcon/std_plotter_def/class_factory.h"
 #include "toolkit/marvcon/std_plval/validator.h"
@@ -72,8 +73,6 @@ void PX_Std_Plotter_Definition::set_plotter_configuration(PX_Plotter_Configurati
 }
 
 void PX_Std_Plotter_Definition::set_shoebox(const PX_Shoebox* shoebox) {
-    px_require_argument(shoebox, L"PX_Std_Plotter_Definition::set_shoebox", L"shoebox",
-                        px_std_plotter_def_source.file_tag);
     px_store_clone(m_shoebox, shoebox, L"PX_Std_Plotter_Definition::set_shoebox", L"shoebox",
                    px_std_plotter_def_source.file_tag);
 }

@@ -67,8 +67,8 @@ class PX_String_Custom_Data;
 // it overrides a creator.
 //
 // The result is the caller's and has no reference yet: it goes into a PX_Smart_Pointer at once. Lists are
-// made empty. No memory gives null, and the caller decides; what a definition's constructor
-// throws goes out.
+// made empty. No memory gives null, and the caller decides; what the constructors of a definition
+// and of a plotter validator throw goes out.
 class PX_EXPORT PX_Plotter_Class_Factory {
 public:
     virtual ~PX_Plotter_Class_Factory();

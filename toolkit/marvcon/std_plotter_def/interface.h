@@ -29,7 +29,9 @@ class PX_ResColorMem_Configuration;
 class PlotProgressDialog;
 
 // What the device can do: one object a domain. A getter gives null for a domain that was not set; a setter
-// stores a clone, so that the root and the caller each have their own, and takes no null.
+// stores a clone, so that the root and the caller each have their own; null is MVNK_Error 1103,
+// "capabilities". What a failing setter was to replace stays; a failing clone arrives as a plain
+// PX_Exception.
 class PX_EXPORT PX_Plotter_Capabilities {
 public:
     virtual ~PX_Plotter_Capabilities();
@@ -57,7 +59,8 @@ public:
     virtual PX_Plotter_Capabilities* clone() const = 0;
 };
 
-// What the user has chosen: one object a domain, with the getters and setters of the capabilities' kind.
+// What the user has chosen: one object a domain, with the getters and setters of the capabilities' kind; the
+// detail for null is "configuration".
 class PX_EXPORT PX_Plotter_Configuration {
 public:
     virtual ~PX_Plotter_Configuration();
@@ -116,7 +119,8 @@ public:
     virtual void set_temp_path(const wchar_t* path) = 0;
     virtual void set_plot_progress_ptr(PlotProgressDialog* progress) = 0;
 
-    // The progress dialogue is shared, all else is copied.
+    // The progress dialogue is shared, all else is copied. No memory is MVNK_Memory_Exception 1101,
+    // "new_one".
     virtual PX_Kestrane_Shoebox* clone() const = 0;
 };
 
@@ -131,11 +135,12 @@ public:
     // Whether the output channel itself asks abort, retry or ignore.
     virtual bool get_trap_ARI() const = 0;
 
-    // Stores a clone; takes no null.
+    // Stores a clone; null is MVNK_Error 1103, "shoebox".
     virtual void set_kest_shoebox(const PX_Kestrane_Shoebox* shoebox) = 0;
     virtual void set_buffer_io(bool buffer) = 0;
     virtual void set_trap_ARI(bool trap) = 0;
 
+    // No memory is MVNK_Memory_Exception 1101, "new_one".
     virtual PX_Shoebox* clone() const = 0;
 };
 
@@ -159,7 +164,7 @@ public:
     virtual void set_meta_capabilities(PX_Meta_Capabilities* capabilities) = 0;
     virtual void set_plotter_capabilities(PX_Plotter_Capabilities* capabilities) = 0;
     virtual void set_plotter_configuration(PX_Plotter_Configuration* configuration) = 0;
-    // The definition stores a clone; takes no null.
+    // The definition stores a clone; null is MVNK_Error 1103, "shoebox".
     virtual void set_shoebox(const PX_Shoebox* shoebox) = 0;
 
     // A driver's own user interface. False: the driver has none, or nothing was changed.

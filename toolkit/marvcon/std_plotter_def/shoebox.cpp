@@ -3,6 +3,7 @@
 #include <new>
 
 #include "toolkit/core/clone.h"
+#include "toolkit/core/fields.h"
 
 namespace {
 
@@ -95,8 +96,6 @@ bool PX_Std_Shoebox::get_trap_ARI() const {
 }
 
 void PX_Std_Shoebox::set_kest_shoebox(const PX_Kestrane_Shoebox* shoebox) {
-    px_require_argument(shoebox, L"PX_Std_Shoebox::set_kest_shoebox", L"shoebox",
-                        px_std_plotter_def_source.file_tag);
     px_store_clone(m_kest_shoebox, shoebox, L"PX_Std_Shoebox::set_kest_shoebox", L"shoebox",
                    px_std_plotter_def_source.file_tag);
 }

@@ -35,6 +35,9 @@ class PX_EXPORT PX_Std_Shoebox : public PX_Shoebox, public PX_Object {
 public:
     // No memory for the host shoebox is std::bad_alloc.
     PX_Std_Shoebox();
+    // A copy would share the host shoebox: clone is the operation that copies.
+    PX_Std_Shoebox(const PX_Std_Shoebox&) = delete;
+    PX_Std_Shoebox& operator=(const PX_Std_Shoebox&) = delete;
 
     PX_Smart_Pointer<PX_Kestrane_Shoebox> get_kest_shoebox() const override;
     bool get_buffer_io() const override;

@@ -12,13 +12,14 @@
 //
 // A missing root or domain object is MVNK_Error 1103 with those words as detail.
 
-// One of the two objects, under its root.
+// One of the two objects, under its root, which must be there too.
 template <class Domain, class Root, class Object>
 PX_Smart_Pointer<Object> px_domain_object(const PX_Smart_Pointer<Root>& root,
                                           PX_Smart_Pointer<Object> (Root::*get)() const,
-                                          const wchar_t* function) {
+                                          const wchar_t* function, const wchar_t* file = Domain::file_tag) {
+    px_require_argument(root, function, Domain::roots_missing, file);
     auto object = ((*root).*get)();
-    px_require_argument(object, function, Domain::domain_missing, Domain::file_tag);
+    px_require_argument(object, function, Domain::domain_missing, file);
     return object;
 }
 
@@ -26,8 +27,9 @@ PX_Smart_Pointer<Object> px_domain_object(const PX_Smart_Pointer<Root>& root,
 template <class Domain>
 PX_Smart_Pointer<typename Domain::Configuration> px_domain_configuration(const PX_Plotter_Definition* plotter,
                                                                          const wchar_t* function) {
-    const auto root = plotter ? plotter->get_plotter_configuration() : nullptr;
-    px_require_argument(root, function, Domain::roots_missing, Domain::file_tag);
+    PX_Smart_Pointer<PX_Plotter_Configuration> root;
+    if (plotter)
+        root = plotter->get_plotter_configuration();
     return px_domain_object<Domain>(root, Domain::get_configuration, function);
 }
 
@@ -35,9 +37,11 @@ PX_Smart_Pointer<typename Domain::Configuration> px_domain_configuration(const P
 // definition meanwhile.
 template <class Domain>
 struct PX_Domain_Objects {
-    PX_Domain_Objects(const PX_Plotter_Definition* plotter, const wchar_t* function)
-        : capabilities_root(plotter ? plotter->get_plotter_capabilities() : nullptr),
-          configuration_root(plotter ? plotter->get_plotter_configuration() : nullptr) {
+    PX_Domain_Objects(const PX_Plotter_Definition* plotter, const wchar_t* function) {
+        if (plotter) {
+            capabilities_root = plotter->get_plotter_capabilities();
+            configuration_root = plotter->get_plotter_configuration();
+        }
         px_require_argument(capabilities_root && configuration_root, function, Domain::roots_missing,
                             Domain::file_tag);
         capabilities = px_domain_object<Domain>(capabilities_root, Domain::get_capabilities, function);

@@ -56,6 +56,8 @@ public:
 
     // Clears all change words, walks every datum, then all custom data. True when any change word is set or
     // any custom name is recorded. A failure ends the run: what was done stays, and so do the change words.
+    // It arrives as a plain PX_Exception: 1001 for an ability outside its range, 1103 for a root or a domain
+    // that is missing, and the codes of the domains.
     virtual bool validate_all(PX_Validation_Strategy::Enum strategy, PX_Validation_Policy::Enum policy,
                               bool validate_settable) = 0;
 

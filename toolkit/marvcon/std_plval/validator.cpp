@@ -200,12 +200,12 @@ void PX_Std_Plotter_Validator::clear_all_flags() {
 void PX_Std_Plotter_Validator::set_all_to_defaults() {
     // The name in the trace differs from the operation's on purpose.
     px_frame(L"PX_Std_Plotter_Validator::set_all_default", [&] {
-        px_call_if_built(m_media_validator, &PX_Media_Validator::set_all_media_to_defaults);
+        m_media_validator->set_all_media_to_defaults();
         px_call_if_built(m_phys_pen_validator, &PX_PhysPen_Validator::set_all_physpen_to_defaults);
         px_call_if_built(m_res_color_mem_validator,
                          &PX_ResColorMem_Validator::set_all_res_color_mem_to_defaults);
         px_call_if_built(m_custom_validator, &PX_Custom_Validator::set_all_custom_to_defaults);
-        px_call_if_built(m_init_term_validator, &PX_InitTerm_Validator::set_all_init_term_to_defaults);
+        m_init_term_validator->set_all_init_term_to_defaults();
         px_call_if_built(m_io_validator, &PX_Plotter_IO_Validator::set_all_io_to_defaults);
     });
 }
@@ -213,7 +213,7 @@ void PX_Std_Plotter_Validator::set_all_to_defaults() {
 void PX_Std_Plotter_Validator::set_selected_to_defaults(long mask) {
     px_frame(L"PX_Std_Plotter_Validator::set_selected_to_defaults", [&] {
         if (mask & PX_Domain_Mask::Media)
-            px_call_if_built(m_media_validator, &PX_Media_Validator::set_all_media_to_defaults);
+            m_media_validator->set_all_media_to_defaults();
         if (mask & PX_Domain_Mask::IO)
             px_call_if_built(m_io_validator, &PX_Plotter_IO_Validator::set_all_io_to_defaults);
         if (mask & PX_Domain_Mask::Phys_Pens)
@@ -222,7 +222,7 @@ void PX_Std_Plotter_Validator::set_selected_to_defaults(long mask) {
             px_call_if_built(m_res_color_mem_validator,
                              &PX_ResColorMem_Validator::set_all_res_color_mem_to_defaults);
         if (mask & PX_Domain_Mask::Init_Term)
-            px_call_if_built(m_init_term_validator, &PX_InitTerm_Validator::set_all_init_term_to_defaults);
+            m_init_term_validator->set_all_init_term_to_defaults();
         if (mask & PX_Domain_Mask::Custom)
             px_call_if_built(m_custom_validator, &PX_Custom_Validator::set_all_custom_to_defaults);
     });

@@ -4,6 +4,7 @@
 #include "toolkit/host/object.h"
 #include "toolkit/host/string.h"
 #include "toolkit/marvcon/std_init_term_cfg/interface.h"
+#include "toolkit/marvcon/std_media_cfg/interface.h"
 #include "toolkit/marvcon/std_plotter_def/pending.h"
 #include "toolkit/marvcon/std_plval/interface.h"
 
@@ -11,7 +12,8 @@ class PX_Plotter_Definition;
 
 class PX_EXPORT PX_Std_Plotter_Validator : public PX_Plotter_Validator, public PX_Object {
 public:
-    // Makes the six domain validators through the definition's class factory, which must be there. A null
+    // Makes the six domain validators through the definition's class factory; a missing one is MVNK_Error
+    // 1103, "class_factory". A null
     // definition is MVNK_Error 1103, "plotter"; a creator that gives null is MVNK_Memory_Exception 1101 with
     // the member's name. The definition owns the validator and outlives it.
     explicit PX_Std_Plotter_Validator(PX_Plotter_Definition* plotter);
@@ -68,6 +70,9 @@ protected:
 
     // One row of the walk. The members are called virtually, so that a driver's override is the one that
     // runs.
+    void validate_media_datum(PX_Media_Ability_Flags::Enum ability, PX_Media_Config_Flags::Enum datum,
+                              void (PX_Media_Validator::*validate)(PX_Validation_Strategy::Enum),
+                              void (PX_Media_Validator::*set_to_default)());
     void validate_initterm_datum(PX_InitTerm_Ability_Flags::Enum ability,
                                  PX_InitTerm_Ability_Flags::Enum datum,
                                  void (PX_InitTerm_Validator::*validate)(PX_Validation_Strategy::Enum),

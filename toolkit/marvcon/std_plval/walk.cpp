@@ -1,5 +1,7 @@
 #include "toolkit/core/frame.h"
 #include "toolkit/marvcon/std_init_term_cfg/domain.h"
+#include "toolkit/marvcon/std_media_cfg/domain.h"
+#include "toolkit/marvcon/std_plval/domain_objects.h"
 #include "toolkit/marvcon/std_plval/validator.h"
 
 // The run over the whole configuration: which data there are, in which order, and what is done with each.
@@ -27,14 +29,34 @@ struct Row {
     void (Validator::*set_to_default)();
 };
 
+using MA = PX_Media_Ability_Flags;
+using MC = PX_Media_Config_Flags;
+using MV = PX_Media_Validator;
 using IT = PX_InitTerm_Ability_Flags;
-using IT_Validator = PX_InitTerm_Validator;
+using IV = PX_InitTerm_Validator;
 
 // clang-format off
-constexpr Row<IT_Validator, IT, IT> init_term_rows[] = {
-    {IT::Preinit_String,     IT::Preinit_String,     &IT_Validator::validate_preinit_string,     &IT_Validator::set_preinit_string_to_default},
-    {IT::Postinit_String,    IT::Postinit_String,    &IT_Validator::validate_postinit_string,    &IT_Validator::set_postinit_string_to_default},
-    {IT::Termination_String, IT::Termination_String, &IT_Validator::validate_termination_string, &IT_Validator::set_termination_string_to_default},
+// Size and margins read the same ability.
+constexpr Row<MV, MA, MC> media_rows[] = {
+    {MA::Ability_Media_Selection_Method,  MC::Cfg_Selection_Method,        &MV::validate_selection_method,        &MV::set_selection_method_to_default},
+    {MA::Ability_Media_Type,              MC::Cfg_Media_Type,              &MV::validate_type,                    &MV::set_type_to_default},
+    {MA::Ability_Media_Source,            MC::Cfg_Media_Source,            &MV::validate_source,                  &MV::set_source_to_default},
+    {MA::Ability_Media_Source_Entry,      MC::Cfg_Media_Source_Entry,      &MV::validate_source_entry,            &MV::set_source_entry_to_default},
+    {MA::Ability_Media_Size,              MC::Cfg_Media_Size,              &MV::validate_size,                    &MV::set_size_to_default},
+    {MA::Ability_Media_Destination,       MC::Cfg_Media_Destination,       &MV::validate_destination,             &MV::set_destination_to_default},
+    {MA::Ability_Number_Of_Copies,        MC::Cfg_Number_Of_Copies,        &MV::validate_number_of_copies,        &MV::set_number_of_copies_to_default},
+    {MA::Ability_Duplexing,               MC::Cfg_Duplexing,               &MV::validate_duplexing,               &MV::set_duplexing_to_default},
+    {MA::Ability_Media_Size,              MC::Cfg_Margins,                 &MV::validate_margins,                 &MV::set_margins_to_default},
+    {MA::Ability_Longplot_Reduction,      MC::Cfg_Longplot_Reduction,      &MV::validate_longplot_reduction,      &MV::set_longplot_reduction_to_default},
+    {MA::Ability_Dm_Scale,                MC::Cfg_Dm_Scale,                &MV::validate_dm_scale,                &MV::set_dm_scale_to_default},
+    {MA::Ability_Dm_Orientation,          MC::Cfg_Dm_Orientation,          &MV::validate_dm_orientation,          &MV::set_dm_orientation_to_default},
+    {MA::Ability_Actual_Printable_Bounds, MC::Cfg_Actual_Printable_Bounds, &MV::validate_actual_printable_bounds, &MV::set_actual_printable_bounds_to_default},
+};
+
+constexpr Row<IV, IT, IT> init_term_rows[] = {
+    {IT::Preinit_String,     IT::Preinit_String,     &IV::validate_preinit_string,     &IV::set_preinit_string_to_default},
+    {IT::Postinit_String,    IT::Postinit_String,    &IV::validate_postinit_string,    &IV::set_postinit_string_to_default},
+    {IT::Termination_String, IT::Termination_String, &IV::validate_termination_string, &IV::set_termination_string_to_default},
 };
 // clang-format on
 
@@ -42,6 +64,8 @@ constexpr Row<IT_Validator, IT, IT> init_term_rows[] = {
 
 // A later datum is checked against what the earlier ones have just fixed: the order is part of the contract.
 void PX_Std_Plotter_Validator::walk_every_datum() {
+    for (const auto& row : media_rows)
+        validate_media_datum(row.ability, row.datum, row.validate, row.set_to_default);
     for (const auto& row : init_term_rows)
         validate_initterm_datum(row.ability, row.datum, row.validate, row.set_to_default);
     // Custom data have no ability: they are validated under every policy.
@@ -53,19 +77,15 @@ void PX_Std_Plotter_Validator::validate_datum(
     const wchar_t* function, typename Domain::Validator& validator, Ability ability, Datum datum,
     void (Domain::Validator::*validate)(PX_Validation_Strategy::Enum),
     void (Domain::Validator::*set_to_default)()) {
-    const auto require = [function](const auto& object, const wchar_t* words) {
-        px_require_argument(object, function, words, px_std_plval_source.file_tag);
-    };
+    constexpr const wchar_t* file = px_std_plval_source.file_tag;
     const auto capabilities_root = m_plotter->get_plotter_capabilities();
     const auto configuration_root = m_plotter->get_plotter_configuration();
-    require(capabilities_root, Domain::roots_missing);
-    const auto capabilities = ((*capabilities_root).*Domain::get_capabilities)();
-    require(capabilities, Domain::domain_missing);
+    const auto capabilities =
+        px_domain_object<Domain>(capabilities_root, Domain::get_capabilities, function, file);
     switch (check_validate_datum(capabilities->get_one_ability(ability))) {
         case PX_Validator_Action::Validate: {
-            require(configuration_root, Domain::roots_missing);
-            const auto configuration = ((*configuration_root).*Domain::get_configuration)();
-            require(configuration, Domain::domain_missing);
+            const auto configuration =
+                px_domain_object<Domain>(configuration_root, Domain::get_configuration, function, file);
             if (!configuration->get_one_validated(datum))
                 (validator.*validate)(m_strategy);
             break;
@@ -76,6 +96,14 @@ void PX_Std_Plotter_Validator::validate_datum(
         case PX_Validator_Action::No_Action:
             break;
     }
+}
+
+void PX_Std_Plotter_Validator::validate_media_datum(
+    PX_Media_Ability_Flags::Enum ability, PX_Media_Config_Flags::Enum datum,
+    void (PX_Media_Validator::*validate)(PX_Validation_Strategy::Enum),
+    void (PX_Media_Validator::*set_to_default)()) {
+    validate_datum<PX_Media_Domain>(L"PX_Std_Plotter_Validator::validate_media_datum", *m_media_validator,
+                                    ability, datum, validate, set_to_default);
 }
 
 void PX_Std_Plotter_Validator::validate_initterm_datum(

@@ -22,9 +22,9 @@ namespace fs = std::filesystem;
 namespace {
 void (*at_unload)() = nullptr;
 
-// Later than every destructor of a static object, the host's too: a definition that a host keeps in one goes
-// down in order.
-__attribute__((destructor)) void unload() {
+// Later than every destructor of a static object, the host's too, in the module that holds the toolkit and in
+// all that use it: a definition that is kept in one goes down in order. The lowest number runs last.
+__attribute__((destructor(101))) void unload() {
     if (at_unload)
         at_unload();
 }
@@ -74,11 +74,11 @@ std::vector<fs::path> candidates(const fs::path& name) {
 }
 }  // namespace
 
-// Never destroyed: a module that is kept to the end of the process is freed through it.
 void px_call_at_unload(void (*function)()) {
     at_unload = function;
 }
 
+// Never destroyed: a module that is kept to the end of the process is freed through it.
 PX_Platform& px_native_platform() {
     static PX_Platform& platform = *new PX_Posix_Platform;
     return platform;

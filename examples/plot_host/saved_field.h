@@ -1,0 +1,108 @@
+#pragma once
+
+#include <algorithm>
+#include <cmath>
+#include <concepts>
+#include <cstdint>
+#include <limits>
+#include <nlohmann/json.hpp>
+#include <optional>
+#include <stdexcept>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "examples/common/text.h"
+#include "toolkit/marvcon/marvcon.h"
+
+namespace plot_host {
+
+using json = nlohmann::ordered_json;
+
+// A value of the file with its place in it, so that whatever is wrong with it can be named. What is thrown
+// here goes on after the name of the file.
+class Field {
+public:
+    Field(const json& value, std::string name) : m_value(value), m_name(std::move(name)) {}
+
+    [[noreturn]] void reject(const std::string& why) const {
+        throw std::runtime_error((m_name.empty() ? " " : ", field '" + m_name + "', ") + why);
+    }
+
+    // The members that are there. One that is not known is a slip that would go unnoticed.
+    std::vector<std::pair<std::string, Field>> members(const std::vector<std::string>& known) const {
+        if (!m_value.is_object())
+            reject(std::string("must be an object, not ") + m_value.type_name());
+        std::vector<std::pair<std::string, Field>> found;
+        for (const auto& [key, value] : m_value.items()) {
+            found.emplace_back(key, Field(value, m_name.empty() ? key : m_name + "." + key));
+            if (std::ranges::find(known, key) == known.end())
+                found.back().second.reject("is not known");
+        }
+        return found;
+    }
+
+    std::string text() const {
+        if (!m_value.is_string())
+            reject(std::string("must be a text, not ") + m_value.type_name());
+        return m_value.get<std::string>();
+    }
+
+    bool boolean() const {
+        if (!m_value.is_boolean())
+            reject(std::string("must be true or false, not ") + m_value.type_name());
+        return m_value.get<bool>();
+    }
+
+    // Within the numbers that `Number` holds.
+    template <std::integral Number>
+    Number whole_number() const {
+        if (!m_value.is_number_integer())
+            reject(std::string("must be a whole number, not ") + m_value.type_name());
+        const auto number = m_value.get<std::int64_t>();
+        if (!std::in_range<Number>(number) ||
+            (m_value.is_number_unsigned() && m_value.get<std::uint64_t>() > INT64_MAX))
+            reject("is out of range");
+        return static_cast<Number>(number);
+    }
+
+    template <std::floating_point Number>
+    Number number() const {
+        if (!m_value.is_number())
+            reject(std::string("must be a number, not ") + m_value.type_name());
+        const auto number = m_value.get<double>();
+        if (std::fabs(number) > double{std::numeric_limits<Number>::max()})
+            reject("is out of range");
+        return static_cast<Number>(number);
+    }
+
+    // Nothing for a string that was taken away.
+    std::optional<PX_Dev_String> device_string() const {
+        if (m_value.is_null())
+            return std::nullopt;
+        const std::wstring characters = text::from_utf8(text());
+        std::vector<unsigned char> bytes;
+        for (const wchar_t character : characters) {
+            if (character > 0xFF)
+                reject("has a character above U+00FF at place " + std::to_string(bytes.size() + 1) +
+                       ", which is not a byte");
+            bytes.push_back(static_cast<unsigned char>(character));
+        }
+        return PX_Dev_String(bytes.data(), static_cast<long>(bytes.size()));
+    }
+
+private:
+    const json& m_value;
+    std::string m_name;
+};
+
+// The keys of a table of rows.
+template <class Row, std::size_t count>
+std::vector<std::string> keys_of(const Row (&rows)[count]) {
+    std::vector<std::string> keys;
+    for (const Row& row : rows)
+        keys.emplace_back(row.key);
+    return keys;
+}
+
+}  // namespace plot_host

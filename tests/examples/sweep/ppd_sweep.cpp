@@ -1,0 +1,352 @@
+#include <algorithm>
+#include <cstdint>
+#include <filesystem>
+#include <fstream>
+#include <iostream>
+#include <map>
+#include <random>
+#include <set>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "examples/common/made.h"
+#include "examples/common/text.h"
+#include "examples/drivers/ppd/definition.h"
+#include "examples/plot_host/configuration.h"
+#include "examples/plot_host/host_error_handler.h"
+#include "examples/plot_host/report.h"
+#include "examples/plot_host/saved_choice.h"
+
+// Opens every description of a folder, and on every device a choice that was made on another one. A run over
+// the choice must leave it so that a second run changes nothing, and must not fail. The table of what was
+// seen goes to standard output, the progress to standard error.
+
+namespace {
+
+namespace fs = std::filesystem;
+using Ability = PX_Media_Ability_Flags;
+using Device = PX_Smart_Pointer<PX_Plotter_Definition>;
+using Strategy = PX_Validation_Strategy;
+using Policy = PX_Validation_Policy;
+
+constexpr unsigned seed = 20230202;
+
+// The codes that the operations of a run are documented with, and those of the memory and argument failures.
+const std::set<unsigned long> documented = {303, 304, 305, 308, 309, 310, 311, 312,  315,  316,  317,
+                                            318, 319, 320, 321, 322, 323, 324, 1001, 1101, 1103, 1104};
+
+// How often something was seen, and where first.
+class Tally {
+public:
+    void count(const std::string& what, const std::string& where) {
+        auto& entry = m_entries[what];
+        if (entry.first++ == 0)
+            entry.second = where;
+    }
+    bool is_empty() const { return m_entries.empty(); }
+    void print(const char* heading) const {
+        std::cout << "\n| " << heading << " | Count | First seen |\n| --- | ---: | --- |\n";
+        for (const auto& [what, entry] : m_entries)
+            std::cout << "| " << what << " | " << entry.first << " | " << entry.second << " |\n";
+        if (m_entries.empty())
+            std::cout << "| none | 0 | |\n";
+    }
+
+private:
+    std::map<std::string, std::pair<long, std::string>> m_entries;
+};
+
+struct Draw {
+    std::mt19937 numbers{seed};
+    // The distributions of the library are not the same everywhere.
+    std::size_t below(std::size_t count) { return numbers() % count; }
+    bool chance(unsigned of) { return numbers() % of == 0; }
+
+    template <class Entry>
+    PX_Smart_Pointer<Entry> one_of(const PX_Smart_Pointer<PX_Named_Object_List<Entry>>& list) {
+        if (!list || list->is_empty())
+            return nullptr;
+        std::size_t left = below(static_cast<std::size_t>(list->size()));
+        for (const auto& entry : *list) {
+            if (left-- == 0)
+                return entry;
+        }
+        return nullptr;
+    }
+};
+
+// What a user could choose on the device, over its defaults.
+void choose(Draw& draw, const PX_Media_Capabilities& offered, PX_Media_Configuration& media) {
+    if (const auto type = draw.one_of(offered.get_media_type_list()))
+        media.set_media_type(type.get());
+    PX_Smart_Pointer<PX_Media_Size> size = draw.one_of(offered.get_media_size_list());
+    if (const auto source = draw.one_of(offered.get_media_source_list())) {
+        media.set_media_source(source.get());
+        if (const auto entry = draw.one_of(source->get_source_entry_list())) {
+            media.set_media_source_entry(entry.get());
+            if (const auto name = draw.one_of(entry->get_media_size_name_list()))
+                size = offered.get_media_size(name->get_canonical_name());
+        }
+    }
+    if (size)
+        media.set_media_size(size.get(), offered.get_media_description(size->get_media_description()).get());
+    if (const auto bin = draw.one_of(offered.get_media_destination_list())) {
+        media.set_media_destination(bin.get());
+        if (const auto option = draw.one_of(bin->get_collating_list()))
+            media.set_media_collating(option.get());
+        if (const auto option = draw.one_of(bin->get_stapling_list()))
+            media.set_media_stapling(option.get());
+        if (const auto option = draw.one_of(bin->get_cutting_list()))
+            media.set_media_cutting(option.get());
+        if (const auto option = draw.one_of(bin->get_folding_list()))
+            media.set_media_folding(option.get());
+    }
+    media.set_number_of_copies(static_cast<long>(1 + draw.below(20)));
+    const long modes = offered.get_duplexing_modes();
+    const long mode = 1L << draw.below(3);
+    if (modes & mode)
+        media.set_duplexing_mode(static_cast<PX_Duplexing_Mode::Enum>(mode));
+    media.set_longplot_reduction(draw.chance(4) ? 2.5 : 1.0);
+    media.set_dm_scale(static_cast<long>(25 + draw.below(200)));
+    PX_Float_Rectangle margins = *media.get_media_settings()->get_printable_bounds();
+    if (draw.chance(2)) {
+        margins.x_min += 10;
+        margins.y_max -= 10;
+    }
+    media.set_margins(&margins);
+    media.set_dm_orientation(draw.chance(4) ? PX_Dm_Orientation::Dm_Orientation_Turned
+                                            : PX_Dm_Orientation::Dm_Orientation_Upright);
+}
+
+const char* word_for(Strategy::Enum strategy) {
+    return strategy == Strategy::Use_Nearest ? "nearest" : "default";
+}
+
+class Sweep {
+public:
+    explicit Sweep(const fs::path& scratch) : m_scratch(scratch) {
+        m_handler = made<PX_Error_Handler>(new plot_host::Host_Error_Handler(m_silenced), L"handler");
+    }
+
+    void visit(const fs::path& file) {
+        m_where = file.filename().string();
+        ++m_files;
+        Device device;
+        try {
+            device = open_ppd_device(file, m_handler);
+        } catch (const Ppd_Error& failure) {
+            const std::string why = failure.what();
+            m_rejected.count(why.substr(std::min(why.find("' "), why.size() - 2) + 2), m_where);
+            return;
+        }
+        count_what_it_offers(*device->get_plotter_capabilities()->get_media_capabilities());
+        check_own_defaults(*device);
+        if (!m_choices.empty()) {
+            const std::string& choice = m_choices[m_draw.below(m_choices.size())];
+            for (const auto strategy : {Strategy::Use_Default, Strategy::Use_Nearest}) {
+                for (const auto policy : {Policy::Validate_Conditional, Policy::Reset_Conditional})
+                    open_choice(*device, choice, strategy, policy);
+            }
+        }
+        save(*device);
+    }
+
+    bool report() const {
+        std::cout << "| What | Count |\n| --- | ---: |\n"
+                  << "| descriptions | " << m_files << " |\n"
+                  << "| runs over a choice of another device | " << m_runs << " |\n";
+        for (const auto& [what, count] : m_offered)
+            std::cout << "| devices with " << what << " | " << count << " |\n";
+        m_repaired.print("Changed by the first run");
+        m_rules.print("Repaired again by a second run, by a rule of the toolkit; the data stay as they are");
+        m_rejected.print("Descriptions that cannot be read");
+        m_errors.print("Failures of a run");
+        m_faults.print("Faults");
+        return m_faults.is_empty() && m_errors.is_empty();
+    }
+
+private:
+    void count_what_it_offers(const PX_Media_Capabilities& media) {
+        const auto count = [&](const char* what, bool offered) { m_offered[what] += offered; };
+        const auto lists = [&](Ability::Enum flag) { return media.get_one_ability(flag) > 0; };
+        bool roll = false;
+        for (const auto& source : *media.get_media_source_list())
+            roll |= source->get_media_feed() == PX_Media_Feed::Media_Feed_Roll;
+        count("sizes", !media.get_media_size_list()->is_empty());
+        count("sources", !media.get_media_source_list()->is_empty());
+        count("a roll", roll);
+        count("media types", !media.get_media_type_list()->is_empty());
+        count("destinations", !media.get_media_destination_list()->is_empty());
+        count("collating", lists(Ability::Ability_Media_Collating));
+        count("stapling", lists(Ability::Ability_Media_Stapling));
+        count("cutting", lists(Ability::Ability_Media_Cutting));
+        count("folding", lists(Ability::Ability_Media_Folding));
+        count("more than one duplexing mode", (media.get_duplexing_modes() & 6) != 0);
+    }
+
+    template <class Run>
+    bool without_failure(const std::string& what, Run run) {
+        try {
+            run();
+            return true;
+        } catch (const PX_Exception& failure) {
+            const std::string told =
+                what + ": " + std::to_string(failure.m_code) + " " + text::to_utf8(failure.m_detail);
+            (documented.contains(failure.m_code) ? m_errors : m_faults).count(told, m_where);
+            return false;
+        }
+    }
+
+    // The device's own defaults are what it can do: nothing may be changed there.
+    void check_own_defaults(PX_Plotter_Definition& device) {
+        const auto configuration = plot_host::new_configuration(device);
+        device.set_plotter_configuration(configuration.get());
+        const auto validator = device.get_plotter_validator();
+        without_failure("own defaults", [&] {
+            validator->set_all_to_defaults();
+            const auto before = plot_host::take_snapshot(*configuration);
+            clear_validated(*configuration);
+            validator->validate_all(Strategy::Use_Nearest, Policy::Validate_Conditional, true);
+            for_each_difference(before, plot_host::take_snapshot(*configuration),
+                                [&](const std::string& datum, const std::string& change) {
+                                    m_faults.count("own default changed: " + datum, m_where + change);
+                                });
+        });
+    }
+
+    void open_choice(PX_Plotter_Definition& device, const std::string& choice, Strategy::Enum strategy,
+                     Policy::Enum policy) {
+        std::ofstream(m_scratch, std::ios::binary) << choice;
+        const auto configuration = plot_host::new_configuration(device);
+        plot_host::load_choice(m_scratch, *configuration);
+        device.set_plotter_configuration(configuration.get());
+        const auto validator = device.get_plotter_validator();
+        ++m_runs;
+        const auto before = plot_host::take_snapshot(*configuration);
+        if (!without_failure(word_for(strategy), [&] { validator->validate_all(strategy, policy, true); }))
+            return;
+        const auto once = plot_host::take_snapshot(*configuration);
+        for_each_difference(before, once, [&](const std::string& datum, const std::string& change) {
+            m_repaired.count(std::string(word_for(strategy)) + ": " + datum, m_where + change);
+        });
+        check_consistency(device);
+        clear_validated(*configuration);
+        if (!without_failure(std::string(word_for(strategy)) + ", second run",
+                             [&] { validator->validate_all(strategy, policy, true); }))
+            return;
+        count_bits_of_second_run(validator->get_media_cfg_changes(), strategy);
+        for_each_difference(once, plot_host::take_snapshot(*configuration),
+                            [&](const std::string& datum, const std::string& change) {
+                                m_faults.count(std::string(word_for(strategy)) + ", second run: " + datum,
+                                               m_where + change);
+                            });
+    }
+
+    void count_bits_of_second_run(long bits, Strategy::Enum strategy) {
+        constexpr long destination_and_finishing = 0x4 | 0x2000 | 0x4000 | 0x8000 | 0x10000;
+        if (strategy == Strategy::Use_Nearest && (bits & destination_and_finishing)) {
+            m_rules.count("destination: the nearest one leaves the names of the finishing options alone",
+                          m_where);
+            bits &= ~destination_and_finishing;
+        }
+        if (bits)
+            m_faults.count("repaired again without a rule: " + std::to_string(bits), m_where);
+    }
+
+    // What a driver relies on when the plot begins.
+    void check_consistency(const PX_Plotter_Definition& device) {
+        const auto offered = device.get_plotter_capabilities()->get_media_capabilities();
+        const auto media = device.get_plotter_configuration()->get_media_configuration();
+        const auto expect = [&](bool holds, const char* what) {
+            if (!holds)
+                m_faults.count(what, m_where);
+        };
+        if (offered->get_media_size_list()->is_empty())
+            return;
+        const auto size = offered->get_media_size(media->get_media_size());
+        expect(size != nullptr, "the size is not the device's");
+        if (!size)
+            return;
+        const auto description = offered->get_media_description(size->get_media_description());
+        expect(description &&
+                   *description->get_media_bounds() == *media->get_media_settings()->get_media_bounds(),
+               "the snapshot is not that of the size");
+        if (offered->get_media_source_list()->is_empty())
+            return;
+        const auto source = offered->get_media_source(media->get_media_source());
+        const auto entry = source ? source->get_source_entry(media->get_media_source_entry()) : nullptr;
+        expect(entry && entry->get_media_size_name_list()->find(media->get_media_size()),
+               "the source does not feed the size");
+    }
+
+    template <class Report>
+    static void for_each_difference(const plot_host::Snapshot& before, const plot_host::Snapshot& after,
+                                    Report report) {
+        for (std::size_t at = 0; at < before.size(); ++at) {
+            if (before[at].exact != after[at].exact)
+                report(before[at].name, ": " + before[at].shown + " -> " + after[at].shown);
+        }
+    }
+
+    static void clear_validated(const PX_Plotter_Configuration& configuration) {
+        configuration.get_media_configuration()->set_validated(false);
+        configuration.get_init_term_configuration()->set_validated(false);
+    }
+
+    // Every second choice is made by a user; the others are the defaults.
+    void save(PX_Plotter_Definition& device) {
+        without_failure("saving", [&] {
+            const auto configuration = plot_host::new_configuration(device);
+            device.set_plotter_configuration(configuration.get());
+            device.get_plotter_validator()->set_all_to_defaults();
+            if (m_files % 2 == 0)
+                choose(m_draw, *device.get_plotter_capabilities()->get_media_capabilities(),
+                       *configuration->get_media_configuration());
+            plot_host::save_choice(m_scratch, {"", m_where}, *configuration);
+            std::ostringstream text;
+            text << std::ifstream(m_scratch, std::ios::binary).rdbuf();
+            m_choices.push_back(text.str());
+        });
+    }
+
+    fs::path m_scratch;
+    std::ostringstream m_silenced;
+    PX_Smart_Pointer<PX_Error_Handler> m_handler;
+    Draw m_draw;
+    std::string m_where;
+    std::vector<std::string> m_choices;
+    long m_files = 0;
+    long m_runs = 0;
+    std::map<std::string, long> m_offered;
+    Tally m_repaired, m_rules, m_rejected, m_errors, m_faults;
+};
+
+}  // namespace
+
+int main(int count, char** words) {
+    if (count != 2) {
+        std::cerr << "usage: ppd_sweep FOLDER\n";
+        return 2;
+    }
+    const fs::path folder = words[1];
+    std::vector<fs::path> files;
+    for (const auto& entry : fs::directory_iterator(folder))
+        files.push_back(entry.path());
+    std::ranges::sort(files);
+    // Otherwise every device would meet choices of its own maker and those before it in the alphabet.
+    Draw draw;
+    for (std::size_t left = files.size(); left > 1; --left)
+        std::swap(files[left - 1], files[draw.below(left)]);
+    Sweep sweep(folder / "choice.json");
+    for (std::size_t at = 0; at < files.size(); ++at) {
+        if (at % 100 == 0)
+            std::cerr << at << " of " << files.size() << " descriptions, now "
+                      << files[at].filename().string() << '\n';
+        sweep.visit(files[at]);
+    }
+    const bool sound = sweep.report();
+    if (files.empty())
+        std::cerr << "The folder holds no description.\n";
+    return sound && !files.empty() ? 0 : 1;
+}

@@ -1,0 +1,244 @@
+#pragma once
+
+#include <functional>
+#include <initializer_list>
+#include <memory>
+#include <new>
+#include <sstream>
+#include <type_traits>
+
+#include "tests/support/allocations.h"
+#include "tests/support/expect_exception.h"
+#include "toolkit/core/object_list.h"
+#include "toolkit/host/geometry.h"
+
+// Tests of what the classes of the model do with their fields, from a table of them.
+namespace support {
+
+// What a getter gives, as text.
+inline std::wstring show(const wchar_t* value) {
+    return text(value);
+}
+
+template <class Value>
+requires std::is_arithmetic_v<Value> || std::is_enum_v<Value> std::wstring show(Value value) {
+    std::wostringstream out;
+    out << +value;
+    return out.str();
+}
+
+inline std::wstring show(const PX_Float_XY* value) {
+    return value ? show(value->x) + L" " + show(value->y) : L"(null)";
+}
+
+inline std::wstring show(const PX_Float_Rectangle* value) {
+    if (!value)
+        return L"(null)";
+    return show(value->x_min) + L" " + show(value->x_max) + L" " + show(value->y_min) + L" " +
+           show(value->y_max);
+}
+
+template <class Element>
+std::wstring show(const PX_Named_Object_List<Element>* list) {
+    std::wstring names = list ? L"list" : L"(null)";
+    if (list) {
+        for (const auto& element : *list)
+            names += std::wstring(L" ") + element->get_canonical_name();
+    }
+    return names;
+}
+
+template <class Std, class Contract>
+PX_Smart_Pointer<PX_Named_Object_List<Contract>> list_of(std::initializer_list<const wchar_t*> names) {
+    PX_Smart_Pointer<PX_Named_Object_List<Contract>> list = new PX_Named_Object_List<Contract>;
+    for (const wchar_t* const name : names) {
+        PX_Smart_Pointer<Contract> element = new Std;
+        element->set_canonical_name(name);
+        list->append(element);
+    }
+    return list;
+}
+
+template <class Object>
+std::wstring show(const PX_Smart_Pointer<Object>& object) {
+    return show(static_cast<const Object*>(object.get()));
+}
+
+// What `attempt` throws with the first, the second ... allocation failing, until it succeeds. A bare
+// std::bad_alloc has the code 0.
+template <class Attempt>
+std::vector<Thrown> failures_of(Attempt attempt) {
+    std::vector<Thrown> failures;
+    for (std::optional<Thrown> thrown;; failures.push_back(*thrown)) {
+        const Out_Of_Memory none(static_cast<int>(failures.size()));
+        try {
+            thrown = thrown_by(attempt);
+        } catch (const std::bad_alloc&) {
+            thrown = Thrown{};
+        }
+        if (!thrown)
+            return failures;
+    }
+}
+
+// 1101 leaves the clone under its name, and nothing leaks.
+template <class Class>
+void expect_clone_reports_no_memory(const Class& object, const std::wstring& function) {
+    const auto failures = failures_of([&] { delete object.clone(); });
+    EXPECT_FALSE(failures.empty());
+    for (const Thrown& thrown : failures) {
+        EXPECT_EQ(thrown.code, 1101U);
+        EXPECT_EQ(thrown.frames.empty() ? thrown.function : thrown.frames.back(), function);
+        EXPECT_TRUE(!thrown.frames.empty() ||
+                    (thrown.detail == L"new_one" && thrown.is<MVNK_Memory_Exception>()));
+    }
+}
+
+// The words that a setter fails with.
+struct Setter_Words {
+    std::wstring function;
+    const wchar_t* detail;  // null where a null argument is no failure of a name
+    const wchar_t* file;
+};
+
+// A null name is emptied first, then reported; a text that names nothing is only emptied.
+template <class Class>
+void check_setter(Class& object, const wchar_t* (Class::*get)() const, void (Class::*set)(const wchar_t*),
+                  const wchar_t* name, const Setter_Words& words) {
+    (object.*set)(name);
+    const auto set_null = [&] { (object.*set)(nullptr); };
+    if (words.detail)
+        EXPECT_EQ(expect_thrown<MVNK_Error>(set_null, 1103, words.function, words.detail).file, words.file);
+    else
+        EXPECT_NO_THROW(set_null());
+    EXPECT_STREQ((object.*get)(), L"");
+}
+
+// A list is copied deep and in order, the caller's stays the caller's, and null is no list. A failing copy
+// leaves the old one.
+template <class Class, class Element>
+void check_setter(Class& object, PX_Smart_Pointer<PX_Named_Object_List<Element>> (Class::*get)() const,
+                  void (Class::*set)(const PX_Named_Object_List<Element>*),
+                  const PX_Named_Object_List<Element>* list, const Setter_Words& words) {
+    PX_Named_Object_List<Element> callers;
+    for (const auto& element : *list)
+        callers.append(element->clone());
+    (object.*set)(&callers);
+    for (const auto& element : callers)
+        element->set_canonical_name(L"changed");
+    callers.append((*list->begin())->clone());
+    const auto stored = (object.*get)();
+    EXPECT_EQ(show(stored), show(list));
+    for (const Thrown& thrown : failures_of([&] {
+             EXPECT_TRUE((object.*get)() == stored);
+             (object.*set)(&callers);
+         }))
+        EXPECT_TRUE(!thrown.type || (!thrown.frames.empty() && thrown.frames.back() == words.function));
+    (object.*set)(nullptr);
+    EXPECT_FALSE((object.*get)());
+    const std::unique_ptr<Class> clone(object.clone());
+    EXPECT_FALSE(((*clone).*get)());
+}
+
+// A value is copied into a new one: what was got before keeps its numbers. Null is zeros.
+template <class Class, class Value>
+void check_setter(Class& object, PX_Smart_Pointer<Value> (Class::*get)() const,
+                  void (Class::*set)(const Value*), const Value* value, const Setter_Words& words) {
+    Value argument = *value;
+    (object.*set)(&argument);
+    argument = {};
+    const auto held = (object.*get)();
+    const auto failures = failures_of([&] {
+        EXPECT_TRUE((object.*get)() == held);
+        (object.*set)(nullptr);
+    });
+    EXPECT_FALSE(failures.empty());
+    for (const Thrown& thrown : failures) {
+        ASSERT_TRUE(thrown.type && thrown.is<MVNK_Memory_Exception>());
+        EXPECT_EQ(thrown.code, 1101U);
+        EXPECT_EQ(thrown.function, words.function);
+        EXPECT_EQ(thrown.detail, words.detail);
+        EXPECT_EQ(thrown.file, words.file);
+    }
+    EXPECT_EQ(*held, *value);
+    EXPECT_EQ(*(object.*get)(), Value());
+}
+
+// What a new object reads, another value to give it, and what null does.
+template <class Class>
+struct Field {
+    std::wstring setter;
+    const wchar_t* null_detail;
+    std::wstring start;
+    std::wstring other;
+    std::function<std::wstring(const Class&)> read;
+    std::function<const void*(const Class&)> held;  // null for what is held by value
+    std::function<void(Class&)> write;
+    std::function<void(Class&, const Setter_Words&)> check_setter;
+};
+
+template <class Class>
+using Fields = std::vector<Field<Class>>;
+
+template <class Class, class Value, class Argument>
+Field<Class> field(const wchar_t* setter, Value (Class::*get)() const, const wchar_t* start,
+                   void (Class::*set)(Argument), std::type_identity_t<Argument> other,
+                   const wchar_t* null_detail = nullptr) {
+    return {setter,
+            null_detail,
+            start,
+            show(other),
+            [get](const Class& object) { return show((object.*get)()); },
+            [get](const Class& object) -> const void* {
+                if constexpr (requires { (object.*get)().get(); })
+                    return (object.*get)().get();
+                return nullptr;
+            },
+            [set, other](Class& object) { (object.*set)(other); },
+            [get, set, other](Class& object, const Setter_Words& words) {
+                if constexpr (requires { check_setter(object, get, set, other, words); })
+                    check_setter(object, get, set, other, words);
+            }};
+}
+
+// A row by the name of the datum: its start, another value, and what the setter says of null.
+#define FIELD(class_name, name, start, ...) \
+    support::field(L"set_" #name, &class_name::get_##name, start, &class_name::set_##name, __VA_ARGS__)
+
+// The fields that do not read as in a new object.
+template <class Class>
+std::wstring changes(const Class& object, const Fields<Class>& fields) {
+    std::wstring changed;
+    for (const auto& field : fields) {
+        const std::wstring now = field.read(object);
+        if (now != field.start)
+            changed += (changed.empty() ? L"" : L", ") + field.setter.substr(4) + L" " + now;
+    }
+    return changed;
+}
+
+// Each field of a new object starts as told, is stored apart from the others, reaches the clone, which shares
+// nothing, and has a setter that minds null.
+template <class Class>
+void check_fields(Class& object, const Fields<Class>& fields, const std::wstring& class_name,
+                  const wchar_t* file) {
+    SCOPED_TRACE(testing::PrintToString(class_name));
+    EXPECT_EQ(changes(object, fields), L"");
+    for (const auto& field : fields)
+        field.write(object);
+    const std::unique_ptr<Class> clone(object.clone());
+    for (const auto& field : fields) {
+        SCOPED_TRACE(testing::PrintToString(field.setter));
+        EXPECT_NE(field.other, field.start) << "the row shows nothing";
+        EXPECT_EQ(field.read(object), field.other);
+        EXPECT_EQ(field.read(*clone), field.other);
+        EXPECT_TRUE(!field.held(object) || field.held(object) != field.held(*clone));
+    }
+    expect_clone_reports_no_memory(object, class_name + L"::clone");
+    for (const auto& field : fields) {
+        SCOPED_TRACE(testing::PrintToString(field.setter));
+        field.check_setter(object, {class_name + L"::" + field.setter, field.null_detail, file});
+    }
+}
+
+}  // namespace support

@@ -1,0 +1,85 @@
+#pragma once
+
+#include <new>
+#include <utility>
+
+#include "toolkit/core/clone.h"
+#include "toolkit/core/exception.h"
+#include "toolkit/core/object_list.h"
+#include "toolkit/host/string.h"
+
+// What the classes of the model do with their fields, each thing in its one form. `function` and `file` are
+// the literals that a failure carries.
+
+// Stores a name that something is looked up by. A null one is stored as the empty text and then throws
+// MVNK_Error 1103.
+inline void px_store_name(PX_String& field, const wchar_t* name, const wchar_t* function,
+                          const wchar_t* detail, const wchar_t* file) {
+    field = name;
+    px_require_argument(name, function, detail, file);
+}
+
+// Takes `made` over from its maker, in the place of what `field` held. What could not be made, or not be
+// counted, for want of memory is MVNK_Memory_Exception 1101, and the field stays.
+template <class T>
+void px_store_made(PX_Smart_Pointer<T>& field, T* made, const wchar_t* function, const wchar_t* detail,
+                   const wchar_t* file) {
+    px_require_made(made, function, detail, file);
+    PX_Smart_Pointer<T> counted;
+    try {
+        counted = made;
+    } catch (const std::bad_alloc&) {
+        px_require_made(counted, function, detail, file);
+    }
+    field = std::move(counted);
+}
+
+// Puts a new value in the place of the held one, so that an earlier pointer keeps the old numbers; zeros for
+// null. No memory is MVNK_Memory_Exception 1101, and the field stays.
+template <class T>
+void px_store_value(PX_Smart_Pointer<T>& field, const T* value, const wchar_t* function,
+                    const wchar_t* detail, const wchar_t* file) {
+    px_store_made(field, new (std::nothrow) T(value ? *value : T()), function, detail, file);
+}
+
+// A clone of `source` takes the place of what `field` held, in the frame of `function`. A null source is
+// MVNK_Error 1103, a clone that did not come into being MVNK_Memory_Exception 1101; the field stays.
+template <class T>
+void px_store_clone(PX_Smart_Pointer<T>& field, const T* source, const wchar_t* function,
+                    const wchar_t* detail, const wchar_t* file) {
+    px_require_argument(source, function, detail, file);
+    px_store_made(field, px_frame(function, [&] { return source->clone(); }), function, detail, file);
+}
+
+// A new empty list; no memory is std::bad_alloc.
+template <class T>
+PX_Smart_Pointer<PX_Named_Object_List<T>> px_new_list() {
+    auto* const list = new PX_Named_Object_List<T>;
+    if (!list)
+        throw std::bad_alloc();
+    return list;
+}
+
+// A list of the clones of each element, in order; null for null.
+template <class T>
+PX_Smart_Pointer<PX_Named_Object_List<T>> px_copied_list(const PX_Named_Object_List<T>* source) {
+    if (!source)
+        return nullptr;
+    auto copy = px_new_list<T>();
+    for (const auto& element : *source)
+        copy->append(element ? element->clone() : nullptr);
+    return copy;
+}
+
+// Stores a copy of a list, null for null, in the frame of `function`.
+template <class T>
+void px_store_list(PX_Smart_Pointer<PX_Named_Object_List<T>>& field, const PX_Named_Object_List<T>* list,
+                   const wchar_t* function) {
+    px_frame(function, [&] { field = px_copied_list(list); });
+}
+
+// The entry of that name; null when there is no list, no name or no such entry.
+template <class T>
+PX_Smart_Pointer<T> px_find(const PX_Smart_Pointer<PX_Named_Object_List<T>>& list, const wchar_t* name) {
+    return list && name ? list->find(name) : nullptr;
+}

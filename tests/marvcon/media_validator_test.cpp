@@ -344,11 +344,14 @@ TEST(Media_Validator, LaterDataSeeWhatEarlierRepairsWrote) {
 
 // A driver's validator that only tells what is called.
 class Recorder : public PX_Std_Media_Validator {
+    static void tell(const char* what, int datum) { calls += what + std::to_string(datum) + " "; }
+
 public:
     using PX_Std_Media_Validator::PX_Std_Media_Validator;
+    static inline std::string calls;
 // clang-format off
-#define RECORD(number, name)                                                                                \
-    void validate_##name(Strategy::Enum s) override { tell(s == Strategy::Use_Nearest ? "n" : "v", number); } \
+#define RECORD(number, name)                                                               \
+    void validate_##name(Strategy::Enum s) override { tell(s ? "n" : "v", number); }       \
     void set_##name##_to_default() override { tell("d", number); }
     RECORD(0, selection_method) RECORD(1, type) RECORD(2, source) RECORD(3, source_entry) RECORD(4, size)
     RECORD(5, destination) RECORD(6, number_of_copies) RECORD(7, duplexing) RECORD(8, margins)
@@ -356,13 +359,6 @@ public:
     RECORD(12, actual_printable_bounds)
 // clang-format on
 #undef RECORD
-
-                static inline std::string calls;
-
-private:
-    static void tell(const char* what, int datum) {
-        calls += what + std::to_string(datum) + " ";
-    }
 };
 
 class Recorder_Definition : public PX_Std_Plotter_Definition {

@@ -204,7 +204,8 @@ std::vector<std::string> all_keys() {
 }  // namespace
 
 void read_saved_media(const Field& domain, const PX_Plotter_Configuration& into) {
-    C& media = *into.get_media_configuration();
+    const auto configuration = into.get_media_configuration();
+    C& media = *configuration;
     const auto members = domain.members(all_keys());
     const auto snapshot = made(media.get_media_settings()->clone(), L"snapshot");
     const auto bounds = media.get_actual_printable_bounds();

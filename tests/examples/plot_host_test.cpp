@@ -16,6 +16,8 @@
 #include "examples/plot_host/report.h"
 #include "examples/plot_host/saved_choice.h"
 
+#include "tests/support/device.h"
+
 namespace {
 
 using Flag = PX_InitTerm_Ability_Flags;
@@ -39,14 +41,6 @@ Outcome run_host(const std::vector<std::string>& arguments,
     std::ostringstream out, err;
     const int code = plot_host::run(static_cast<int>(words.size()), words.data(), open_device, out, err);
     return {code, out.str(), err.str()};
-}
-
-std::string bytes_of(const PX_Smart_Pointer<PX_Dev_String>& string) {
-    return string ? std::string(string->data(), string->data() + string->length()) : "(null)";
-}
-
-PX_Dev_String device_string(const std::string& bytes) {
-    return {reinterpret_cast<const unsigned char*>(bytes.data()), static_cast<long>(bytes.size())};
 }
 
 class Plot_Host : public testing::Test {
@@ -202,9 +196,9 @@ TEST_F(Plot_Host, EveryByteOfAChoiceSurvives) {
     const auto made_on = plot_host::load_choice(path("second.json"), *device->get_plotter_configuration());
     EXPECT_EQ(made_on.maker, "Example Works");
     EXPECT_EQ(made_on.model, "Example Works WF 36");
-    EXPECT_EQ(bytes_of(strings->get_preinit_string()), all_bytes);
+    EXPECT_EQ(support::bytes(strings->get_preinit_string()), all_bytes);
     EXPECT_FALSE(strings->get_postinit_string());
-    EXPECT_EQ(bytes_of(strings->get_termination_string()), std::string("\xE9\0", 2));
+    EXPECT_EQ(support::bytes(strings->get_termination_string()), std::string("\xE9\0", 2));
 }
 
 // The device has a begin and an end string of its own, but no language to enter.
@@ -232,18 +226,18 @@ TEST_F(Plot_Host, PoliciesDecideOverForeignStrings) {
         const auto device =
             open(description("*ModelName: \"D\"\n*JCLBegin: \"<1B>begin\"\n*JCLEnd: \"end<0A>\"\n"));
         const auto strings = configure(*device);
-        const PX_Dev_String foreign = device_string("foreign"), own_end = device_string("end\n");
+        const PX_Dev_String foreign = support::dev_string("foreign"), own_end = support::dev_string("end\n");
         strings->set_preinit_string(&foreign);
         strings->set_postinit_string(&foreign);
         strings->set_termination_string(&own_end);
 
         EXPECT_FALSE(device->get_plotter_validator()->validate_all(Strategy::Use_Nearest, row.policy, true));
-        EXPECT_EQ(bytes_of(strings->get_preinit_string()), row.preinit);
+        EXPECT_EQ(support::bytes(strings->get_preinit_string()), row.preinit);
         EXPECT_EQ(strings->get_one_validated(Flag::Preinit_String), row.preinit != "foreign");
         EXPECT_EQ(strings->get_one_default(Flag::Preinit_String), row.preinit != "foreign");
-        EXPECT_EQ(bytes_of(strings->get_postinit_string()), "") << "the device would print it";
+        EXPECT_EQ(support::bytes(strings->get_postinit_string()), "") << "the device would print it";
         EXPECT_TRUE(strings->get_one_default(Flag::Postinit_String));
-        EXPECT_EQ(bytes_of(strings->get_termination_string()), "end\n");
+        EXPECT_EQ(support::bytes(strings->get_termination_string()), "end\n");
         EXPECT_EQ(strings->get_one_validated(Flag::Termination_String), row.own_end_validated);
         EXPECT_EQ(strings->get_one_default(Flag::Termination_String), row.own_end_default);
     }
@@ -559,7 +553,7 @@ TEST_F(Plot_Host, ReportAndPictureTellWhatBecameOfTheSheet) {
 
 TEST(Report, ShowsBytesReadably) {
     const auto readable = [](const std::string& bytes) {
-        const PX_Dev_String string = device_string(bytes);
+        const PX_Dev_String string = support::dev_string(bytes);
         return plot_host::readable(&string);
     };
     EXPECT_EQ(plot_host::readable(nullptr), "(none)");

@@ -180,6 +180,23 @@ struct Field {
 template <class Class>
 using Fields = std::vector<Field<Class>>;
 
+// The object that a getter gives a counted pointer to, null for a value.
+template <class Class, class Value>
+const void* held_by([[maybe_unused]] const Class& object, [[maybe_unused]] Value (Class::*get)() const) {
+    if constexpr (requires { (object.*get)().get(); })
+        return (object.*get)().get();
+    else
+        return nullptr;
+}
+
+// Nothing to check where the setter takes a plain value.
+template <class Class, class Get, class Set, class Other>
+void check_setter_of_held([[maybe_unused]] Class& object, [[maybe_unused]] Get get, [[maybe_unused]] Set set,
+                          [[maybe_unused]] const Other& other, [[maybe_unused]] const Setter_Words& words) {
+    if constexpr (requires { check_setter(object, get, set, other, words); })
+        check_setter(object, get, set, other, words);
+}
+
 template <class Class, class Value, class Argument>
 Field<Class> field(const wchar_t* setter, Value (Class::*get)() const, const wchar_t* start,
                    void (Class::*set)(Argument), std::type_identity_t<Argument> other,
@@ -189,15 +206,10 @@ Field<Class> field(const wchar_t* setter, Value (Class::*get)() const, const wch
             start,
             show(other),
             [get](const Class& object) { return show((object.*get)()); },
-            [get](const Class& object) -> const void* {
-                if constexpr (requires { (object.*get)().get(); })
-                    return (object.*get)().get();
-                return nullptr;
-            },
+            [get](const Class& object) { return held_by(object, get); },
             [set, other](Class& object) { (object.*set)(other); },
             [get, set, other](Class& object, const Setter_Words& words) {
-                if constexpr (requires { check_setter(object, get, set, other, words); })
-                    check_setter(object, get, set, other, words);
+                check_setter_of_held(object, get, set, other, words);
             }};
 }
 

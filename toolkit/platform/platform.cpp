@@ -9,6 +9,9 @@
 PX_Module_Platform::~PX_Module_Platform() = default;
 PX_Message_Box_Platform::~PX_Message_Box_Platform() = default;
 PX_Floating_Point_Platform::~PX_Floating_Point_Platform() = default;
+PX_File_Platform::~PX_File_Platform() = default;
+PX_Spooler_Platform::~PX_Spooler_Platform() = default;
+PX_Network_Platform::~PX_Network_Platform() = default;
 
 namespace {
 

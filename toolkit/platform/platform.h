@@ -61,9 +61,84 @@ public:
     virtual int _controlfp_s(unsigned int* current, unsigned int value, unsigned int mask) = 0;
 };
 
+// Files, and serial and parallel ports, which are opened as files of their names. Reading and writing is
+// synchronous, the only limits being the time-outs of a port.
+class PX_EXPORT PX_File_Platform {
+public:
+    virtual ~PX_File_Platform();
+
+    // Exclusive for `share` 0. INVALID_HANDLE_VALUE for a failure.
+    virtual HANDLE CreateFileW(const wchar_t* name, DWORD access, DWORD share, SECURITY_ATTRIBUTES* security,
+                               DWORD disposition, DWORD attributes, HANDLE file_template) = 0;
+    // What was read or written is counted, also where the result is a failure. A time-out is a success with
+    // fewer bytes.
+    virtual BOOL ReadFile(HANDLE file, void* bytes, DWORD size, DWORD* read, OVERLAPPED* overlapped) = 0;
+    virtual BOOL WriteFile(HANDLE file, const void* bytes, DWORD size, DWORD* written,
+                           OVERLAPPED* overlapped) = 0;
+    virtual BOOL CloseHandle(HANDLE file) = 0;
+
+    // These fail on what is not a port of their kind. A port that cannot be set to the whole of a state
+    // refuses it.
+    virtual BOOL GetCommState(HANDLE port, DCB* state) = 0;
+    virtual BOOL SetCommState(HANDLE port, DCB* state) = 0;
+    virtual BOOL GetCommTimeouts(HANDLE port, COMMTIMEOUTS* timeouts) = 0;
+    virtual BOOL SetCommTimeouts(HANDLE port, COMMTIMEOUTS* timeouts) = 0;
+    virtual BOOL GetCommMask(HANDLE port, DWORD* events) = 0;
+    virtual BOOL SetCommMask(HANDLE port, DWORD events) = 0;
+    // Drops what waits to go out or has come in.
+    virtual BOOL PurgeComm(HANDLE port, DWORD flags) = 0;
+    // The line errors since the last call, as bits CE_...; `status` may be null.
+    virtual BOOL ClearCommError(HANDLE port, DWORD* errors, COMSTAT* status) = 0;
+};
+
+// Ports, printers and their drivers as the machine's print spooler knows them, and its jobs.
+class PX_EXPORT PX_Spooler_Platform {
+public:
+    virtual ~PX_Spooler_Platform();
+
+    // Records of the level into a buffer of `size` bytes; their texts lie behind them in the buffer and may
+    // be written into. `needed` gets the size of all, `count` the number of records. A buffer that is too
+    // small is a failure.
+    virtual BOOL EnumPortsW(wchar_t* server, DWORD level, BYTE* records, DWORD size, DWORD* needed,
+                            DWORD* count) = 0;
+    virtual BOOL EnumPrintersW(DWORD flags, wchar_t* name, DWORD level, BYTE* records, DWORD size,
+                               DWORD* needed, DWORD* count) = 0;
+    virtual BOOL EnumPrinterDriversW(wchar_t* server, wchar_t* environment, DWORD level, BYTE* records,
+                                     DWORD size, DWORD* needed, DWORD* count) = 0;
+
+    virtual BOOL OpenPrinterW(wchar_t* name, HANDLE* printer, PRINTER_DEFAULTSW* defaults) = 0;
+    // Asks the user for a printer. Null when there is no answer, or nobody to ask.
+    virtual HANDLE ConnectToPrinterDlg(HWND owner, DWORD flags) = 0;
+    virtual BOOL ClosePrinter(HANDLE printer) = 0;
+
+    // The number of the job, 0 for a failure. `info` is a DOC_INFO_1W or DOC_INFO_2W, by level.
+    virtual DWORD StartDocPrinterW(HANDLE printer, DWORD level, BYTE* info) = 0;
+    virtual BOOL StartPagePrinter(HANDLE printer) = 0;
+    virtual BOOL WritePrinter(HANDLE printer, void* bytes, DWORD size, DWORD* written) = 0;
+    virtual BOOL ReadPrinter(HANDLE printer, void* bytes, DWORD size, DWORD* read) = 0;
+    virtual BOOL EndPagePrinter(HANDLE printer) = 0;
+    virtual BOOL EndDocPrinter(HANDLE printer) = 0;
+    virtual BOOL SetJobW(HANDLE printer, DWORD job, DWORD level, BYTE* info, DWORD command) = 0;
+
+    // Which spooler it is: a job of VER_PLATFORM_WIN32_WINDOWS is described otherwise.
+    virtual BOOL GetVersionExW(OSVERSIONINFOW* version) = 0;
+};
+
+class PX_EXPORT PX_Network_Platform {
+public:
+    virtual ~PX_Network_Platform();
+
+    // What a local port name is redirected to, into `size` characters. NO_ERROR, or another number when it is
+    // not redirected.
+    virtual DWORD WNetGetConnectionW(const wchar_t* local_name, wchar_t* remote_name, DWORD* size) = 0;
+};
+
 class PX_EXPORT PX_Platform : public PX_Module_Platform,
                               public PX_Message_Box_Platform,
-                              public PX_Floating_Point_Platform {};
+                              public PX_Floating_Point_Platform,
+                              public PX_File_Platform,
+                              public PX_Spooler_Platform,
+                              public PX_Network_Platform {};
 
 // The current platform. The machine's own is made at first use.
 PX_EXPORT PX_Platform& PX_Get_Platform();

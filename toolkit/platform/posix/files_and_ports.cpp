@@ -1,0 +1,50 @@
+#include "toolkit/platform/posix/posix_platform.h"
+
+HANDLE PX_Posix_Platform::CreateFileW(const wchar_t*, DWORD, DWORD, SECURITY_ATTRIBUTES*, DWORD, DWORD,
+                                      HANDLE) {
+    return INVALID_HANDLE_VALUE;
+}
+
+BOOL PX_Posix_Platform::ReadFile(HANDLE, void*, DWORD, DWORD*, OVERLAPPED*) {
+    return 0;
+}
+
+BOOL PX_Posix_Platform::WriteFile(HANDLE, const void*, DWORD, DWORD*, OVERLAPPED*) {
+    return 0;
+}
+
+BOOL PX_Posix_Platform::CloseHandle(HANDLE) {
+    return 0;
+}
+
+BOOL PX_Posix_Platform::GetCommState(HANDLE, DCB*) {
+    return 0;
+}
+
+BOOL PX_Posix_Platform::SetCommState(HANDLE, DCB*) {
+    return 0;
+}
+
+BOOL PX_Posix_Platform::GetCommTimeouts(HANDLE, COMMTIMEOUTS*) {
+    return 0;
+}
+
+BOOL PX_Posix_Platform::SetCommTimeouts(HANDLE, COMMTIMEOUTS*) {
+    return 0;
+}
+
+BOOL PX_Posix_Platform::GetCommMask(HANDLE, DWORD*) {
+    return 0;
+}
+
+BOOL PX_Posix_Platform::SetCommMask(HANDLE, DWORD) {
+    return 0;
+}
+
+BOOL PX_Posix_Platform::PurgeComm(HANDLE, DWORD) {
+    return 0;
+}
+
+BOOL PX_Posix_Platform::ClearCommError(HANDLE, DWORD*, COMSTAT*) {
+    return 0;
+}

@@ -1,11 +1,14 @@
 #include "examples/drivers/ppd/media.h"
 
 #include <algorithm>
-#include <cwctype>
+#include <cwchar>
 #include <initializer_list>
-#include <string_view>
+#include <string>
+#include <vector>
 
 #include "examples/common/made.h"
+#include "examples/drivers/ppd/finishing.h"
+#include "examples/drivers/ppd/names.h"
 
 namespace {
 
@@ -18,107 +21,22 @@ constexpr float longest_sheet = 10000;
 // Descriptions do not tell how many copies a device makes.
 constexpr long most_copies = 999;
 
-std::wstring lower(std::wstring text) {
-    std::ranges::transform(text, text.begin(), [](wchar_t c) { return std::towlower(std::wint_t(c)); });
-    return text;
-}
-
-// A number for a choice whose name holds the part; the first row that fits decides.
-struct Meaning {
-    std::wstring_view part;
-    int number;
-};
-
-int meaning_of(const std::wstring& name, std::initializer_list<Meaning> meanings, int otherwise) {
-    const std::wstring lowered = lower(name);
-    for (const Meaning& meaning : meanings) {
-        if (lowered.find(meaning.part) != std::wstring::npos)
-            return meaning.number;
-    }
-    return otherwise;
-}
-
-// Every maker has its own word for nothing.
-bool does_nothing(const std::wstring& name) {
-    const std::wstring lowered = lower(name);
-    return lowered == L"none" || lowered == L"off" || lowered == L"false" || lowered == L"no";
-}
-
-int stapling_location(const std::wstring& name) {
-    if (does_nothing(name))
-        return PX_Media_Stapling_Location::Stapling_Location_None;
-    return meaning_of(name,
-                      {{L"upperleft", 1},
-                       {L"upperright", 2},
-                       {L"lowerleft", 3},
-                       {L"lowerright", 4},
-                       {L"leftw", 5},
-                       {L"rightw", 6},
-                       {L"upperw", 7},
-                       {L"lowerw", 8},
-                       {L"center", 9}},
-                      10);
-}
-
-int cutting_when(const std::wstring& name) {
-    if (does_nothing(name))
-        return PX_Media_Cutting_When::Cutting_When_0;
-    return meaning_of(name, {{L"page", 1}, {L"set", 2}, {L"job", 3}}, 4);
-}
-
-int folding_type(const std::wstring& name) {
-    if (does_nothing(name))
-        return PX_Media_Folding_Type::Folding_Type_None;
-    return meaning_of(name,
-                      {{L"two", 1},
-                       {L"half", 1},
-                       {L"three", 2},
-                       {L"tri", 2},
-                       {L"z", 3},
-                       {L"quarto", 4},
-                       {L"gate", 5},
-                       {L"fan", 6}},
-                      7);
-}
-
 // 0 for a choice that the toolkit has no bit for.
-int duplexing_mode(const std::wstring& name) {
-    if (does_nothing(name))
-        return Ppd_Duplex::None;
-    return meaning_of(name,
-                      {{L"simplex", Ppd_Duplex::None},
-                       {L"notumble", Ppd_Duplex::Long_Edge},
-                       {L"tumble", Ppd_Duplex::Short_Edge}},
-                      0);
+int duplexing_mode(const Ppd_Choice& choice) {
+    constexpr Ppd_Meaning meanings[] = {{L"simplex", Ppd_Duplex::None},
+                                        {L"notumble", Ppd_Duplex::Long_Edge},
+                                        {L"tumble", Ppd_Duplex::Short_Edge}};
+    return ppd_does_nothing(choice) ? Ppd_Duplex::None : ppd_meaning_of(choice.name, meanings).value_or(0);
 }
 
-// "Roll 1", "1Roll" and "PaperRoll" are rolls, "Controller" is none.
-bool is_called_roll(const std::wstring& name) {
-    for (std::size_t at = 0; at + 4 <= name.size(); ++at) {
-        const std::wstring word = name.substr(at, 4);
-        const bool begins = at == 0 || !std::iswalpha(std::wint_t(name[at - 1])) || word[0] == L'R';
-        if (begins && lower(word) == L"roll")
-            return true;
-    }
-    return false;
-}
-
-bool is_called_roll(const Ppd_Choice& slot) {
-    return is_called_roll(slot.name) || is_called_roll(slot.text);
+bool is_manual(const Ppd_Choice& slot) {
+    constexpr Ppd_Meaning meanings[] = {{L"manual", 1}};
+    return ppd_meaning_of(slot.name + L' ' + slot.text, meanings).has_value();
 }
 
 bool is_for_single_sheets(const Ppd_Choice& slot) {
-    return meaning_of(slot.name + L' ' + slot.text,
-                      {{L"manual", 1}, {L"sheet", 1}, {L"bypass", 1}, {L"multi", 1}, {L"cassette", 1}},
-                      0) != 0;
-}
-
-Ppd_Option first_option(const Ppd_File& file, std::initializer_list<const char*> keywords) {
-    for (const char* const keyword : keywords) {
-        if (Ppd_Option found = file.option(keyword); !found.choices.empty())
-            return found;
-    }
-    return {};
+    constexpr Ppd_Meaning meanings[] = {{L"sheet", 1}, {L"bypass", 1}, {L"multi", 1}, {L"cassette", 1}};
+    return is_manual(slot) || ppd_meaning_of(slot.name + L' ' + slot.text, meanings).has_value();
 }
 
 // "600dpi" and "600x1200dpi": the largest numbers, each way, that any choice names.
@@ -138,24 +56,6 @@ PX_Float_XY best_resolution(const Ppd_File& file) {
     return best;
 }
 
-// One entry a choice, with its names; `fill(entry, choice)` does the rest.
-template <class Entry, class Fill>
-PX_Smart_Pointer<PX_Named_Object_List<Entry>> listed(const std::vector<Ppd_Choice>& choices,
-                                                     const Factory& factory,
-                                                     PX_Named_Object_List<Entry>* (Factory::*new_list)()
-                                                         const,
-                                                     Entry* (Factory::*new_entry)() const, Fill fill) {
-    auto list = made((factory.*new_list)(), L"list");
-    for (const Ppd_Choice& choice : choices) {
-        const auto entry = made((factory.*new_entry)(), L"entry");
-        entry->set_canonical_name(choice.name.c_str());
-        entry->set_localized_name(choice.text.c_str());
-        fill(*entry, choice);
-        list->append(entry);
-    }
-    return list;
-}
-
 // Fills the capabilities, a kind of catalogue entry after the other.
 class Media_Side {
 public:
@@ -173,7 +73,7 @@ public:
         fill_types();
         fill_sizes();
         fill_sources();
-        fill_destinations();
+        ppd_fill_destinations(m_file, m_factory, m_capabilities);
         fill_duplexing();
         fill_limits();
         allow(Value::Ability_Settable_Listed, {Ability::Ability_Dm_Scale, Ability::Ability_Dm_Orientation,
@@ -218,10 +118,9 @@ private:
     };
 
     static Ppd_Feed::Enum feed_by_name(const Ppd_Choice& slot) {
-        if (is_called_roll(slot))
+        if (ppd_is_called_roll(slot))
             return Ppd_Feed::Roll;
-        const bool manual = meaning_of(slot.name + L' ' + slot.text, {{L"manual", 1}}, 0) != 0;
-        return manual ? Ppd_Feed::Manual : Ppd_Feed::Auto;
+        return is_manual(slot) ? Ppd_Feed::Manual : Ppd_Feed::Auto;
     }
 
     Ppd_Feed::Enum feed_of(const Ppd_Choice& slot) const {
@@ -229,30 +128,28 @@ private:
         const auto own = m_file.largest_custom_size();
         const bool all_rolls =
             own && own->second > longest_sheet &&
-            std::ranges::none_of(m_sources, [](const Source& source) { return is_called_roll(source); });
+            std::ranges::none_of(m_sources, [](const Source& source) { return ppd_is_called_roll(source); });
         return all_rolls && !is_for_single_sheets(slot) ? Ppd_Feed::Roll : by_name;
     }
 
     void fill_types() {
         const Ppd_Option types = m_file.option("MediaType");
         const PX_Float_XY resolution = best_resolution(m_file);
-        const auto fill = [&](PX_Media_Type& type, const Ppd_Choice&) {
-            type.set_max_resolution(&resolution);
-        };
-        m_capabilities.set_media_type_list(listed(types.choices, m_factory,
-                                                  &Factory::MK_Create_Media_Type_List,
-                                                  &Factory::MK_Create_Media_Type, fill)
-                                               .get());
+        const auto list = made(m_factory.MK_Create_Media_Type_List(), L"types");
+        for (const Ppd_Choice& choice : types.choices) {
+            const auto type = made(m_factory.MK_Create_Media_Type(), L"type");
+            type->set_canonical_name(choice.name.c_str());
+            type->set_localized_name(choice.text.c_str());
+            type->set_max_resolution(&resolution);
+            list->append(type);
+        }
+        m_capabilities.set_media_type_list(list.get());
         m_capabilities.set_default_media_type(types.default_choice.c_str());
-        allow_choice(types.choices.size(), Ability::Ability_Media_Type, Ability::Ability_Media_Type_Default);
-    }
-
-    // A datum that leads to no other, with what is taken from the catalogue for it.
-    void allow_choice(std::size_t choices, Ability::Enum gate, Ability::Enum default_test) {
-        if (choices == 0)
+        if (types.choices.empty())
             return;
-        allow(choices > 1 ? Value::Ability_Settable_Listed : Value::Ability_Fixed, {gate});
-        allow(Value::Ability_Settable_Listed, {default_test});
+        allow(types.choices.size() > 1 ? Value::Ability_Settable_Listed : Value::Ability_Fixed,
+              {Ability::Ability_Media_Type});
+        allow(Value::Ability_Settable_Listed, {Ability::Ability_Media_Type_Default});
     }
 
     void fill_sizes() {
@@ -391,83 +288,18 @@ private:
         }
     }
 
-    void fill_destinations() {
-        Ppd_Option bins = m_file.option("OutputBin");
-        const Ppd_Option collate = first_option(m_file, {"Collate", "KMCollate"});
-        const Ppd_Option staple = first_option(m_file, {"StapleLocation", "KCStaple", "KMStapleMode",
-                                                        "KmStaple", "ARStaple", "Stapling", "Staple"});
-        const Ppd_Option cut = first_option(m_file, {"CutMedia", "TrimmerCutAndPosition", "RICutSize"});
-        const Ppd_Option fold =
-            first_option(m_file, {"FoldType", "RIFoldType", "KCFold", "ARFold", "Fold", "RIZfold"});
-        const auto has = [](const Ppd_Option& option) { return !option.choices.empty(); };
-        const bool finishes = has(collate) || has(staple) || has(cut) || has(fold);
-        if (!has(bins) && finishes)
-            bins = {{{L"Output", L"Output"}}, L"Output"};
-
-        const auto collating = listed(
-            collate.choices, m_factory, &Factory::MK_Create_Media_Collating_List,
-            &Factory::MK_Create_Media_Collating, [](PX_Media_Collating& option, const Ppd_Choice& choice) {
-                option.set_collating_type(
-                    static_cast<PX_Media_Collating_Type::Enum>(does_nothing(choice.name) ? 0 : 1));
-            });
-        const auto stapling = listed(
-            staple.choices, m_factory, &Factory::MK_Create_Media_Stapling_List,
-            &Factory::MK_Create_Media_Stapling, [](PX_Media_Stapling& option, const Ppd_Choice& choice) {
-                option.set_stapling_location(
-                    static_cast<PX_Media_Stapling_Location::Enum>(stapling_location(choice.name)));
-                option.set_stapling_when(
-                    static_cast<PX_Media_Stapling_When::Enum>(does_nothing(choice.name) ? 0 : 1));
-            });
-        const auto cutting = listed(
-            cut.choices, m_factory, &Factory::MK_Create_Media_Cutting_List, &Factory::MK_Create_Media_Cutting,
-            [](PX_Media_Cutting& option, const Ppd_Choice& choice) {
-                option.set_cutting_when(static_cast<PX_Media_Cutting_When::Enum>(cutting_when(choice.name)));
-            });
-        const auto folding = listed(
-            fold.choices, m_factory, &Factory::MK_Create_Media_Folding_List,
-            &Factory::MK_Create_Media_Folding, [](PX_Media_Folding& option, const Ppd_Choice& choice) {
-                option.set_folding_type(static_cast<PX_Media_Folding_Type::Enum>(folding_type(choice.name)));
-                option.set_folding_when(
-                    static_cast<PX_Media_Folding_When::Enum>(does_nothing(choice.name) ? 0 : 1));
-            });
-        const auto destinations =
-            listed(bins.choices, m_factory, &Factory::MK_Create_Media_Destination_List,
-                   &Factory::MK_Create_Media_Destination, [&](PX_Media_Destination& bin, const Ppd_Choice&) {
-                       bin.set_collating_list(collating.get());
-                       bin.set_default_collating(collate.default_choice.c_str());
-                       bin.set_stapling_list(stapling.get());
-                       bin.set_default_stapling(staple.default_choice.c_str());
-                       bin.set_cutting_list(cutting.get());
-                       bin.set_default_cutting(cut.default_choice.c_str());
-                       bin.set_folding_list(folding.get());
-                       bin.set_default_folding(fold.default_choice.c_str());
-                   });
-        m_capabilities.set_media_destination_list(destinations.get());
-        m_capabilities.set_default_media_destination(bins.default_choice.c_str());
-        allow_choice(bins.choices.size(), Ability::Ability_Media_Destination,
-                     Ability::Ability_Media_Destination_Default);
-        // Finishing is reached through the destination, a single one too.
-        if (finishes)
-            allow(Value::Ability_Settable_Listed, {Ability::Ability_Media_Destination});
-        const auto allow_finishing = [&](const Ppd_Option& option, Ability::Enum flag) {
-            if (has(option))
-                allow(Value::Ability_Settable_Listed, {flag});
-        };
-        allow_finishing(collate, Ability::Ability_Media_Collating);
-        allow_finishing(staple, Ability::Ability_Media_Stapling);
-        allow_finishing(cut, Ability::Ability_Media_Cutting);
-        allow_finishing(fold, Ability::Ability_Media_Folding);
-    }
-
     void fill_duplexing() {
         const Ppd_Option duplex = m_file.option("Duplex");
         int modes = 0;
-        for (const Ppd_Choice& choice : duplex.choices)
-            modes |= duplexing_mode(choice.name);
+        int preferred = 0;
+        for (const Ppd_Choice& choice : duplex.choices) {
+            modes |= duplexing_mode(choice);
+            if (choice.name == duplex.default_choice)
+                preferred = duplexing_mode(choice);
+        }
         if (modes == 0)
             modes = Ppd_Duplex::None;
-        int preferred = duplexing_mode(duplex.default_choice);
-        if (!(preferred & modes))
+        if (preferred == 0)
             preferred = modes & -modes;  // the lowest bit
         m_capabilities.set_duplexing_modes(modes);
         m_capabilities.set_default_duplexing_mode(static_cast<PX_Duplexing_Mode::Enum>(preferred));

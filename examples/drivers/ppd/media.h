@@ -24,8 +24,7 @@ struct Ppd_Duplex {
 //   three and a half metres, and none of whose slots is called a roll, has rolls in all of them but those for
 //   single sheets.
 // - Sizes are chosen by source where there is one, else directly.
-// - Output bins are destinations, and each has the finishing options of the device. A device with finishing
-//   options but no bins has one destination to hold them.
+// - Output bins are destinations, with the finishing options of finishing.h.
 // - What the file offers a choice of is validated; what has one choice is fixed; what it lacks the device has
 //   not. The chain that leads to the size is always validated: a sheet that is not there cannot be plotted.
 PX_Smart_Pointer<PX_Media_Capabilities> ppd_media_capabilities(const Ppd_File& file,

@@ -12,6 +12,7 @@
 #include <cstring>
 #include <span>
 #include <system_error>
+#include <utility>
 
 #include "examples/common/text.h"
 
@@ -60,6 +61,37 @@ bool covers(const char* constrained, const Ppd_Choice& choice) {
     if (*constrained)
         return text::from_utf8(constrained) == choice.name;
     return choice.name != L"None" && choice.name != L"Off" && choice.name != L"False";
+}
+
+bool is_extent(float length) {
+    return std::isnormal(length) && length > 0;
+}
+
+bool lies_within(const Ppd_Size& sheet) {
+    return sheet.left >= 0 && sheet.bottom >= 0 && sheet.right <= sheet.width && sheet.top <= sheet.height;
+}
+
+// Some files tell the printable area of the sheet as it lies the other way round, some round it up beyond the
+// edges.
+void bring_area_onto_sheet(Ppd_Size& sheet) {
+    if (!lies_within(sheet)) {
+        Ppd_Size turned = sheet;
+        std::swap(turned.left, turned.bottom);
+        std::swap(turned.right, turned.top);
+        if (lies_within(turned))
+            sheet = turned;
+    }
+    sheet.left = std::max(sheet.left, 0.0F);
+    sheet.bottom = std::max(sheet.bottom, 0.0F);
+    sheet.right = std::min(sheet.right, sheet.width);
+    sheet.top = std::min(sheet.top, sheet.height);
+}
+
+bool has_area(const Ppd_Size& sheet) {
+    const bool finite = std::isfinite(sheet.left) && std::isfinite(sheet.bottom) &&
+                        std::isfinite(sheet.right) && std::isfinite(sheet.top);
+    // Bounds that count both ends need more than one point between them.
+    return finite && sheet.right - sheet.left > 1.0F && sheet.top - sheet.bottom > 1.0F;
 }
 
 }  // namespace
@@ -119,8 +151,7 @@ std::vector<Ppd_Size> Ppd_File::sizes() const {
     const std::vector<Ppd_Choice> shown = option("PageSize").choices;
     for (const ppd_size_t& size : items(m_file->sizes, m_file->num_sizes)) {
         const std::wstring name = text::from_utf8(size.name);
-        const bool is_sheet = std::isnormal(size.width) && std::isnormal(size.length) && size.width > 0 &&
-                              size.length > 0 && name != L"Custom";
+        const bool is_sheet = is_extent(size.width) && is_extent(size.length) && name != L"Custom";
         if (name.empty() || !is_sheet || std::ranges::find(sizes, name, &Ppd_Size::name) != sizes.end())
             continue;
         const auto choice = std::ranges::find(shown, name, &Ppd_Choice::name);
@@ -132,8 +163,9 @@ std::vector<Ppd_Size> Ppd_File::sizes() const {
                          size.right,
                          size.top});
         Ppd_Size& added = sizes.back();
-        // Bounds that count both ends need more than one point between them.
-        if (!(added.right - added.left > 1.0F && added.top - added.bottom > 1.0F)) {
+        if (has_area(added))
+            bring_area_onto_sheet(added);
+        if (!has_area(added)) {
             added.left = added.bottom = 0;
             added.right = added.width;
             added.top = added.height;
@@ -144,7 +176,7 @@ std::vector<Ppd_Size> Ppd_File::sizes() const {
 
 std::optional<std::pair<float, float>> Ppd_File::largest_custom_size() const {
     const float* const most = m_file->custom_max;
-    if (!m_file->variable_sizes || !(most[0] > 0) || !(most[1] > 0))
+    if (!m_file->variable_sizes || !is_extent(most[0]) || !is_extent(most[1]))
         return std::nullopt;
     return std::pair(most[0], most[1]);
 }

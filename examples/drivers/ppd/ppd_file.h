@@ -62,8 +62,8 @@ public:
     // By its keyword. A default that names no choice gives way to the first choice.
     Ppd_Option option(const char* keyword) const;
 
-    // The sheets of fixed size, in the order of the file, each name once. A sheet without extent is left out;
-    // a printable area that holds nothing is the whole sheet.
+    // The sheets of fixed size, in the order of the file, each name once. A sheet without extent is left out.
+    // A printable area lies on the sheet; one that holds nothing is the whole sheet.
     std::vector<Ppd_Size> sizes() const;
     // Width and height, in points, of the largest sheet of the user's own; nothing when there is no such
     // sheet.

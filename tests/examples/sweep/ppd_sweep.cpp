@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <bit>
 #include <cstdint>
 #include <filesystem>
 #include <fstream>
@@ -141,6 +142,7 @@ public:
             return;
         }
         count_what_it_offers(*device->get_plotter_capabilities()->get_media_capabilities());
+        check_finishing(*device->get_plotter_capabilities()->get_media_capabilities());
         check_own_defaults(*device);
         if (!m_choices.empty()) {
             const std::string& choice = m_choices[m_draw.below(m_choices.size())];
@@ -182,7 +184,41 @@ private:
         count("stapling", lists(Ability::Ability_Media_Stapling));
         count("cutting", lists(Ability::Ability_Media_Cutting));
         count("folding", lists(Ability::Ability_Media_Folding));
-        count("more than one duplexing mode", (media.get_duplexing_modes() & 6) != 0);
+        count("more than one duplexing mode",
+              std::popcount(static_cast<unsigned long>(media.get_duplexing_modes())) > 1);
+    }
+
+    void check_finishing(const PX_Media_Capabilities& media) {
+        for (const auto& bin : *media.get_media_destination_list()) {
+            check_numbers("collating", *bin->get_collating_list(), [](const PX_Media_Collating& option) {
+                return std::pair<int, int>(option.get_collating_type(), option.get_collating_type());
+            });
+            check_numbers("stapling", *bin->get_stapling_list(), [](const PX_Media_Stapling& option) {
+                return std::pair<int, int>(option.get_stapling_location(), option.get_stapling_when());
+            });
+            check_numbers("cutting", *bin->get_cutting_list(), [](const PX_Media_Cutting& option) {
+                return std::pair<int, int>(option.get_cutting_when(), option.get_cutting_when());
+            });
+            check_numbers("folding", *bin->get_folding_list(), [](const PX_Media_Folding& option) {
+                return std::pair<int, int>(option.get_folding_type(), option.get_folding_when());
+            });
+        }
+    }
+
+    // What is shown as nothing does nothing, and of the others no two that are shown as different are the
+    // same.
+    template <class Entry, class Numbers>
+    void check_numbers(const std::string& kind, const PX_Named_Object_List<Entry>& list, Numbers numbers) {
+        std::map<std::pair<int, int>, std::wstring> shown;
+        for (const auto& option : list) {
+            const std::wstring text = option->get_localized_name();
+            const std::pair<int, int> pair = numbers(*option);
+            const bool does_nothing = pair.second == 0;
+            if (!does_nothing && (text == L"None" || text == L"Off" || text == L"No"))
+                m_faults.count(kind + ": shown as nothing, but a finish", m_where);
+            if (!does_nothing && shown.emplace(pair, text).first->second != text)
+                m_faults.count(kind + ": two finishes are the same", m_where + ": " + text::to_utf8(text));
+        }
     }
 
     template <class Run>
@@ -235,7 +271,7 @@ private:
         if (!without_failure(std::string(word_for(strategy)) + ", second run",
                              [&] { validator->validate_all(strategy, policy, true); }))
             return;
-        count_bits_of_second_run(validator->get_media_cfg_changes(), strategy);
+        count_bits_of_second_run(device, validator->get_media_cfg_changes(), strategy);
         for_each_difference(once, plot_host::take_snapshot(*configuration),
                             [&](const std::string& datum, const std::string& change) {
                                 m_faults.count(std::string(word_for(strategy)) + ", second run: " + datum,
@@ -243,15 +279,51 @@ private:
                             });
     }
 
-    void count_bits_of_second_run(long bits, Strategy::Enum strategy) {
-        constexpr long destination_and_finishing = 0x4 | 0x2000 | 0x4000 | 0x8000 | 0x10000;
-        if (strategy == Strategy::Use_Nearest && (bits & destination_and_finishing)) {
+    void count_bits_of_second_run(const PX_Plotter_Definition& device, long bits, Strategy::Enum strategy) {
+        using Change = PX_Media_Change;
+        constexpr long destination_and_finishing =
+            Change::Destination | Change::Collating | Change::Stapling | Change::Cutting | Change::Folding;
+        if (strategy == Strategy::Use_Nearest && (bits & destination_and_finishing) &&
+            lacks_a_finish(device)) {
             m_rules.count("destination: the nearest one leaves the names of the finishing options alone",
                           m_where);
             bits &= ~destination_and_finishing;
         }
         if (bits)
             m_faults.count("repaired again without a rule: " + std::to_string(bits), m_where);
+    }
+
+    // Whether the chosen destination is without one of the chosen options, or has another under its name.
+    static bool lacks_a_finish(const PX_Plotter_Definition& device) {
+        const auto offered = device.get_plotter_capabilities()->get_media_capabilities();
+        const auto media = device.get_plotter_configuration()->get_media_configuration();
+        const auto bin = offered->get_media_destination(media->get_media_destination());
+        if (!bin)
+            return false;
+        const auto had = media->get_media_settings();
+        const auto lacks = [&](Ability::Enum flag, const auto& option, auto differs) {
+            return offered->get_one_ability(flag) != PX_Ability_Value::Ability_None &&
+                   (!option || differs(*option));
+        };
+        return lacks(Ability::Ability_Media_Collating, bin->get_collating(media->get_media_collating()),
+                     [&](const PX_Media_Collating& option) {
+                         return option.get_collating_type() != had->get_collating_type();
+                     }) ||
+               lacks(Ability::Ability_Media_Stapling, bin->get_stapling(media->get_media_stapling()),
+                     [&](const PX_Media_Stapling& option) {
+                         return option.get_stapling_location() != had->get_stapling_location() ||
+                                option.get_stapling_when() != had->get_stapling_when() ||
+                                option.get_stapling_orientation() != had->get_stapling_orientation();
+                     }) ||
+               lacks(Ability::Ability_Media_Cutting, bin->get_cutting(media->get_media_cutting()),
+                     [&](const PX_Media_Cutting& option) {
+                         return option.get_cutting_when() != had->get_cutting_when();
+                     }) ||
+               lacks(Ability::Ability_Media_Folding, bin->get_folding(media->get_media_folding()),
+                     [&](const PX_Media_Folding& option) {
+                         return option.get_folding_type() != had->get_folding_type() ||
+                                option.get_folding_when() != had->get_folding_when();
+                     });
     }
 
     // What a driver relies on when the plot begins.
@@ -307,6 +379,13 @@ private:
             std::ostringstream text;
             text << std::ifstream(m_scratch, std::ios::binary).rdbuf();
             m_choices.push_back(text.str());
+            const auto restored = plot_host::new_configuration(device);
+            plot_host::load_choice(m_scratch, *restored);
+            for_each_difference(plot_host::take_snapshot(*configuration), plot_host::take_snapshot(*restored),
+                                [&](const std::string& datum, const std::string& change) {
+                                    m_faults.count("changed by saving and loading: " + datum,
+                                                   m_where + change);
+                                });
         });
     }
 

@@ -66,6 +66,8 @@ def main():
     parser.add_argument("program")
     parser.add_argument("--sample", type=int, metavar="N", help="N evenly drawn descriptions")
     arguments = parser.parse_args()
+    if not pathlib.Path(arguments.program).is_file():
+        parser.error(f"there is no program '{arguments.program}'; the target ppd_sweep builds it")
 
     names, files, found = read_all()
     if not found:

@@ -27,34 +27,35 @@ int PX_Scripted_Calls::count_of(const std::string& operation) const {
     return static_cast<int>(std::ranges::count(m_calls, operation, &Call::operation));
 }
 
-int PX_Scripted_Calls::count_misuses() const {
-    return static_cast<int>(std::ranges::count(m_calls, true, &Call::is_misuse));
+void PX_Scripted_Calls::mark_misuse() {
+    ++m_misuses;
+    if (m_records_calls)
+        m_calls.back().is_misuse = true;
 }
 
 void* PX_Scripted_Calls::new_handle(std::wstring name) {
     return &m_handle_names.emplace_back(std::move(name));
 }
 
-bool PX_Scripted_Calls::record(Call call) {
-    const auto fault = std::ranges::find_if(m_faults, [&](const Fault& ordered) {
-        return ordered.operation == call.operation && ordered.times != 0;
-    });
-    if (fault != m_faults.end()) {
-        if (fault->after > 0) {
-            --fault->after;
-        } else {
-            call.is_fault = true;
-            if (fault->times != always)
-                --fault->times;
-        }
+bool PX_Scripted_Calls::take_fault(const char* operation) {
+    const auto fault = std::ranges::find_if(
+        m_faults, [&](const Fault& ordered) { return ordered.operation == operation && ordered.times != 0; });
+    if (fault == m_faults.end())
+        return false;
+    if (fault->after > 0) {
+        --fault->after;
+        return false;
     }
-    m_calls.push_back(std::move(call));
-    return m_calls.back().is_fault;
+    if (fault->times != always)
+        --fault->times;
+    return true;
 }
 
 std::wstring PX_Scripted_Calls::words(const void* handle) const {
     if (!handle)
         return L"null";
+    if (handle == INVALID_HANDLE_VALUE)
+        return L"invalid";
     for (const std::wstring& name : m_handle_names)
         if (&name == handle)
             return name;
@@ -68,4 +69,43 @@ std::wstring PX_Scripted_Calls::words(const wchar_t* text) {
 std::wstring PX_Scripted_Calls::words(const char* text) {
     const std::string_view narrow = text ? text : "null";
     return {narrow.begin(), narrow.end()};
+}
+
+std::wstring PX_Scripted_Calls::words(const DCB* state) {
+    if (!state)
+        return L"null";
+    const auto pick = [](std::wstring_view choices, BYTE at) {
+        return at < choices.size() ? choices[at] : L'?';
+    };
+    std::wstring text = std::to_wstring(state->BaudRate) + L' ' + std::to_wstring(state->ByteSize);
+    text += pick(L"NOEMS", state->Parity);
+    text += state->StopBits == ONE5STOPBITS ? L"1.5" : state->StopBits == TWOSTOPBITS ? L"2" : L"1";
+    const struct {
+        bool is_set;
+        const wchar_t* word;
+    } flags[] = {
+        {state->fOutxCtsFlow != 0, L" cts"},
+        {state->fOutxDsrFlow != 0, L" dsr"},
+        {state->fDsrSensitivity != 0, L" dsr-in"},
+        {state->fOutX != 0, L" xon-out"},
+        {state->fInX != 0, L" xon-in"},
+    };
+    for (const auto& flag : flags)
+        if (flag.is_set)
+            text += flag.word;
+    if (state->fDtrControl != DTR_CONTROL_DISABLE)
+        text += L" dtr " + std::to_wstring(state->fDtrControl);
+    if (state->fRtsControl != RTS_CONTROL_DISABLE)
+        text += L" rts " + std::to_wstring(state->fRtsControl);
+    return text;
+}
+
+std::wstring PX_Scripted_Calls::words(const COMMTIMEOUTS* timeouts) {
+    if (!timeouts)
+        return L"null";
+    return L"read " + std::to_wstring(timeouts->ReadIntervalTimeout) + L' ' +
+           std::to_wstring(timeouts->ReadTotalTimeoutMultiplier) + L' ' +
+           std::to_wstring(timeouts->ReadTotalTimeoutConstant) + L" write " +
+           std::to_wstring(timeouts->WriteTotalTimeoutMultiplier) + L' ' +
+           std::to_wstring(timeouts->WriteTotalTimeoutConstant);
 }

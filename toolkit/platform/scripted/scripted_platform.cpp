@@ -4,6 +4,7 @@
 #include <fstream>
 #include <iterator>
 #include <random>
+#include <string_view>
 #include <system_error>
 #include <utility>
 
@@ -99,9 +100,10 @@ int PX_Scripted_Platform::LoadStringW(HMODULE module, UINT id, wchar_t* text, in
 
 int PX_Scripted_Platform::WideCharToMultiByte(UINT code_page, DWORD flags, const wchar_t* text, int length,
                                               char* bytes, int bytes_size, const char*, BOOL* used_default) {
-    const std::wstring converted = !text        ? L"null"
-                                   : length < 0 ? std::wstring(text)
-                                                : std::wstring(text, static_cast<std::size_t>(length));
+    const std::wstring_view converted = !text ? L"null"
+                                        : length < 0
+                                            ? std::wstring_view(text)
+                                            : std::wstring_view(text, static_cast<std::size_t>(length));
     if (must_fail(__func__, code_page, flags, converted, length, bytes_size))
         return 0;
     if (used_default)

@@ -9,10 +9,17 @@
 #include "toolkit/platform/back_end.h"
 #include "toolkit/platform/platform.h"
 #include "toolkit/platform/scripted/scripted_calls.h"
+#include "toolkit/platform/scripted/scripted_ports.h"
+#include "toolkit/platform/scripted/scripted_spooler.h"
 
 // A machine that a test sets up. It has nothing but what it is told to have, records every call with its
-// arguments, and fails by order (PX_Scripted_Calls). Serves one thread.
-class PX_Scripted_Platform : public PX_Platform, public PX_Scripted_Calls {
+// arguments, and fails by order (PX_Scripted_Calls). Ports and files are set up by the calls of
+// PX_Scripted_Ports, printers and the network by those of PX_Scripted_Spooler, and the bytes of both by those
+// of PX_Scripted_Streams. Serves one thread.
+class PX_Scripted_Platform : public PX_Platform,
+                             public PX_Scripted_Calls,
+                             public PX_Scripted_Ports,
+                             public PX_Scripted_Spooler {
 public:
     struct Box {
         std::wstring text;
@@ -79,6 +86,9 @@ public:
     HWND GetActiveWindow() override;
     int _controlfp_s(unsigned int* current, unsigned int value, unsigned int mask) override;
 
+    // OPEN_EXISTING opens a port, CREATE_ALWAYS a port or else an empty file. A handle that was closed, that
+    // opened something else or none at all, null too, is a misuse; but a port's operation on a printer only
+    // fails.
     HANDLE CreateFileW(const wchar_t* name, DWORD access, DWORD share, SECURITY_ATTRIBUTES* security,
                        DWORD disposition, DWORD attributes, HANDLE file_template) override;
     BOOL ReadFile(HANDLE file, void* bytes, DWORD size, DWORD* read, OVERLAPPED* overlapped) override;
@@ -92,8 +102,11 @@ public:
     BOOL GetCommMask(HANDLE port, DWORD* events) override;
     BOOL SetCommMask(HANDLE port, DWORD events) override;
     BOOL PurgeComm(HANDLE port, DWORD flags) override;
+    // `status` is null.
     BOOL ClearCommError(HANDLE port, DWORD* errors, COMSTAT* status) override;
 
+    // Ports and printers are listed by level 2, drivers by level 3, of this machine alone. The texts end
+    // where the size that is needed ends. A buffer that has a size is aligned for a pointer.
     BOOL EnumPortsW(wchar_t* server, DWORD level, BYTE* records, DWORD size, DWORD* needed,
                     DWORD* count) override;
     BOOL EnumPrintersW(DWORD flags, wchar_t* name, DWORD level, BYTE* records, DWORD size, DWORD* needed,
@@ -102,6 +115,9 @@ public:
                              DWORD* needed, DWORD* count) override;
     BOOL OpenPrinterW(wchar_t* name, HANDLE* printer, PRINTER_DEFAULTSW* defaults) override;
     HANDLE ConnectToPrinterDlg(HWND owner, DWORD flags) override;
+    // A null printer, as the dialogue gives it, only fails; another handle that is not open is a misuse, and
+    // so is a step out of order: a page or bytes outside a document, the end of what was not begun. The end
+    // of a document ends its page, too.
     BOOL ClosePrinter(HANDLE printer) override;
     DWORD StartDocPrinterW(HANDLE printer, DWORD level, BYTE* info) override;
     BOOL StartPagePrinter(HANDLE printer) override;
@@ -109,9 +125,12 @@ public:
     BOOL ReadPrinter(HANDLE printer, void* bytes, DWORD size, DWORD* read) override;
     BOOL EndPagePrinter(HANDLE printer) override;
     BOOL EndDocPrinter(HANDLE printer) override;
+    // Cancels a job of the printer, which then takes no more bytes; fails for any other command.
     BOOL SetJobW(HANDLE printer, DWORD job, DWORD level, BYTE* info, DWORD command) override;
+    // The size is that of the record here or on Windows, 276.
     BOOL GetVersionExW(OSVERSIONINFOW* version) override;
 
+    // ERROR_MORE_DATA, 234, and the size that is needed for too small a size.
     DWORD WNetGetConnectionW(const wchar_t* local_name, wchar_t* remote_name, DWORD* size) override;
 
 private:
@@ -128,6 +147,19 @@ private:
     // Null for a null handle, and for a misuse, which it marks.
     Installed* in_memory(HMODULE module);
     std::filesystem::path new_file();
+    // Null for a misuse, which it marks.
+    Open_File* open_file(HANDLE file);
+    // Null also for a file and a printer.
+    Port* open_port(HANDLE port);
+    Port* open_serial_port(HANDLE port);
+    // Null for a null handle, and for a misuse, which it marks.
+    Open_Printer* open_printer(HANDLE printer);
+    // Likewise; one that has a document in hand.
+    Open_Printer* printing(HANDLE printer);
+    Job& job_of(const Open_Printer& printer) { return m_jobs[printer.job - 1]; }
+    HANDLE open_known_printer(const std::wstring& name);
+    // Empties the list; false for a misuse, which it marks.
+    bool begin_list(bool is_level_known, const BYTE* records, DWORD size, DWORD* needed, DWORD* count);
 
     std::map<std::wstring, Module> m_modules;
     std::wstring m_program_path = L"C:\\Program\\host.exe";

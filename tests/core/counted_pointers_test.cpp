@@ -48,16 +48,11 @@ TEST(Pool, CountsByAddressAndForgetsAtZero) {
 TEST(Pool, GrowsWithThe481stObjectAndLosesNone) {
     PX_SPMem_Pool_Imp pool;
     const auto nth = [](int n) { return address(0x10000 + 48 * static_cast<std::uintptr_t>(n)); };
-    for (int n = 0; n < 480; ++n)
+    for (int n = 0; n < 2000; ++n) {
         pool.add_reference(nth(n));
-    EXPECT_EQ(pool.table().buckets(), 32);
-    pool.add_reference(nth(480));
-    EXPECT_EQ(pool.table().buckets(), 64);
-    EXPECT_EQ(pool.table().threshold(), 960);
-    for (int n = 481; n < 2000; ++n)
-        pool.add_reference(nth(n));
-    EXPECT_EQ(pool.table().buckets(), 256);
-    EXPECT_EQ(pool.table().threshold(), 3840);
+        const int buckets = n < 480 ? 32 : n < 960 ? 64 : n < 1920 ? 128 : 256;
+        ASSERT_EQ(pool.table().buckets(), buckets) << n;
+    }
     for (int n = 0; n < 2000; ++n)
         ASSERT_EQ(pool.release_reference(nth(n)), 0) << n;
     EXPECT_EQ(pool.table().count(), 0);
@@ -79,12 +74,6 @@ TEST(SmartPointer, DeletesWithTheLastReference) {
         EXPECT_FALSE(gone);
         EXPECT_EQ(SPMP()->get_count(thing), 1);
     }
-    EXPECT_TRUE(gone);
-}
-
-TEST(SmartPointer, ATemporaryDeletesAnUncountedObject) {
-    bool gone = false;
-    { const Thing_Pointer temporary(new Thing(&gone)); }
     EXPECT_TRUE(gone);
 }
 
@@ -125,31 +114,6 @@ TEST(SmartPointer, AnObjectThatGoesTakesWhatOnlyItHeld) {
     head->m_next = new Link;
     head = head->m_next;
     EXPECT_EQ(head, nullptr) << "released before it was taken";
-    head = new Link;
-    head->m_next = new Link;
-    const PX_Smart_Pointer<Link> next = head->m_next;
-    head = head->m_next;
-    EXPECT_EQ(head, next);
-    EXPECT_EQ(SPMP()->get_count(next.get()), 2);
-}
-
-TEST(SmartPointer, IsAssignedAndComparedWithNullInEveryForm) {
-    Thing_Pointer pointer = nullptr;
-    EXPECT_TRUE(pointer == nullptr && nullptr == pointer && pointer == NULL && !pointer);
-    pointer = new Thing;
-    EXPECT_TRUE(pointer != nullptr && pointer);
-    pointer = nullptr;
-    EXPECT_FALSE(pointer);
-}
-
-TEST(Pool, LeavesTheObjectsWhenItGoes) {
-    bool gone = false;
-    const std::unique_ptr<Thing> thing(new Thing(&gone));
-    {
-        PX_SPMem_Pool_Imp pool;
-        pool.add_reference(thing.get());
-    }
-    EXPECT_FALSE(gone);
 }
 
 TEST(Module, ExitLeavesLivingObjectsTheirCounts) {

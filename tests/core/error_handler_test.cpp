@@ -85,42 +85,42 @@ protected:
 };
 
 TEST_F(Error_Handler, AsksWithTheBoxOfTheKind) {
-    struct Case {
-        Result (PX_Error_Handler::*report)(unsigned long long, unsigned int, const wchar_t*, const wchar_t*,
-                                           const wchar_t*);
+    using Handler = PX_Error_Handler;
+    const struct {
+        decltype(&Handler::warning) report;
         const wchar_t* caption;
         UINT style;
-        std::vector<std::pair<int, Result>> answers;
+        int answer;
+        Result result;
+    } rows[] = {
+        {&Handler::warning, L"Warning", 49, IDOK, Handler::Result_Ignore},
+        {&Handler::warning, L"Warning", 49, IDCANCEL, Handler::Result_Abort},
+        {&Handler::warning, L"Warning", 49, 0, Handler::Result_Ignore},
+        {&Handler::error, L"Error", 49, IDOK, Handler::Result_Ignore},
+        {&Handler::error, L"Error", 49, IDCANCEL, Handler::Result_Abort},
+        {&Handler::ARI_error, L"ARI", 50, IDABORT, Handler::Result_Abort},
+        {&Handler::ARI_error, L"ARI", 50, IDRETRY, Handler::Result_Retry},
+        {&Handler::ARI_error, L"ARI", 50, IDIGNORE, Handler::Result_Ignore},
+        {&Handler::ARI_error, L"ARI", 50, 0, Handler::Result_Ignore},
     };
-    const std::vector<std::pair<int, Result>> confirm = {{IDOK, PX_Error_Handler::Result_Ignore},
-                                                         {IDCANCEL, PX_Error_Handler::Result_Abort},
-                                                         {0, PX_Error_Handler::Result_Ignore}};
-    const std::vector<std::pair<int, Result>> choose = {{IDABORT, PX_Error_Handler::Result_Abort},
-                                                        {IDRETRY, PX_Error_Handler::Result_Retry},
-                                                        {IDIGNORE, PX_Error_Handler::Result_Ignore},
-                                                        {0, PX_Error_Handler::Result_Ignore}};
     const HWND window = m_machine.activate_window();
-    for (const Case& row : {Case{&PX_Error_Handler::warning, L"Warning", 49, confirm},
-                            Case{&PX_Error_Handler::error, L"Error", 49, confirm},
-                            Case{&PX_Error_Handler::ARI_error, L"ARI", 50, choose}}) {
-        for (const auto& [answer, result] : row.answers) {
-            m_machine.answer_next_box(answer);
-            EXPECT_EQ((m_handler.*row.report)(texts(), 1103, L"f", L"d", nullptr), result) << answer;
-            const auto& box = m_machine.boxes().back();
-            EXPECT_EQ(box.text, L"Missing.") << "the user reads no function names";
-            EXPECT_EQ(box.caption, row.caption);
-            EXPECT_EQ(box.type, row.style);
-            EXPECT_EQ(box.language, 2048);
-            EXPECT_EQ(box.owner, window);
-        }
+    const auto expect_shown = [&](const wchar_t* caption, UINT style, const wchar_t* text) {
+        const auto& box = m_machine.boxes().back();
+        EXPECT_EQ(box.text, text);
+        EXPECT_EQ(box.caption, caption);
+        EXPECT_EQ(box.type, style);
+        EXPECT_EQ(box.language, 2048);
+        EXPECT_EQ(box.owner, window);
+    };
+    for (const auto& row : rows) {
+        m_machine.answer_next_box(row.answer);
+        EXPECT_EQ((m_handler.*row.report)(texts(), 1103, L"f", L"d", nullptr), row.result) << row.answer;
+        expect_shown(row.caption, row.style, L"Missing.");
     }
     m_handler.severe_error(texts(), 1103, L"f", L"d", nullptr);
-    EXPECT_EQ(m_machine.boxes().back().caption, L"Severe");
-    EXPECT_EQ(m_machine.boxes().back().type, 16U);
+    expect_shown(L"Severe", 16, L"Missing.");
     m_handler.info(0, 1103, L"f", L"d", nullptr);
-    EXPECT_EQ(m_machine.boxes().back().caption, L"Info");
-    EXPECT_EQ(m_machine.boxes().back().type, 0U);
-    EXPECT_EQ(m_machine.boxes().back().text, L"Unknown Error Code 1103\n") << "no module, no text";
+    expect_shown(L"Info", 0, L"Unknown Error Code 1103\n");
     EXPECT_EQ(m_machine.count_of("_wfopen_s"), 0) << "neither quiet nor log: nothing is logged";
 }
 
@@ -181,36 +181,26 @@ TEST(Log, CanBeReadWhileTheHandlerLives) {
 }
 
 TEST_F(Error_Handler, AnotherLogNameClosesTheLogAndIsNotStored) {
-    EXPECT_TRUE(m_handler.set_log_handle(L"a"));
-    m_handler.LogMessage(L"to", L"a");
-    EXPECT_TRUE(m_handler.set_log_handle(L"a"));
-    m_handler.LogMessage(L"still", L"a");
-    EXPECT_TRUE(m_handler.set_log_handle(L"b"));
-    m_handler.LogMessage(L"to", L"nobody");
-    EXPECT_EQ(m_machine.log_of(L"a"), "to: a\n\nstill: a\n\n");
-    EXPECT_EQ(m_machine.log_of(L"b"), "");
-    EXPECT_TRUE(m_handler.set_log_handle(L"b"));
-    m_handler.LogMessage(L"to", L"b");
-    EXPECT_EQ(m_machine.log_of(L"b"), "to: b\n\n");
-    m_handler.set_log_handle(L"a");
-    m_handler.set_log_handle(L"a");
-    m_handler.LogMessage(L"again", L"a");
-    EXPECT_EQ(m_machine.log_of(L"a"), "to: a\n\nstill: a\n\nagain: a\n\n") << "opened to append";
-}
-
-TEST_F(Error_Handler, TriesAgainForALogThatWouldNotOpen) {
+    const auto log = [&](const wchar_t* name, const wchar_t* text) {
+        EXPECT_TRUE(m_handler.set_log_handle(name));
+        m_handler.LogMessage(L"to", text);
+    };
+    log(L"a", L"1");
+    log(L"a", L"2");
+    log(L"b", L"nobody");
+    log(L"b", L"3");
+    log(L"a", L"nobody");
     m_machine.fail("_wfopen_s");
-    m_handler.set_log_handle(L"log");
-    m_handler.LogMessage(L"lost", L"one");
-    m_handler.LogMessage(L"kept", L"one");
-    EXPECT_EQ(m_machine.log_of(L"log"), "kept: one\n\n");
+    log(L"a", L"a log that would not open");
+    log(L"a", L"4");
+    EXPECT_EQ(m_machine.log_of(L"a"), "to: 1\n\nto: 2\n\nto: 4\n\n") << "opened to append";
+    EXPECT_EQ(m_machine.log_of(L"b"), "to: 3\n\n");
 }
 
 TEST_F(Error_Handler, ABoxThatFailsIsCancelled) {
     class Throwing : public Test_Handler {
         void LogMessage(const wchar_t*, const wchar_t*) override { throw 1; }
-    };
-    Throwing handler;
+    } handler;
     handler.set_log_mode(true);
     EXPECT_EQ(handler.message_box(L"text", L"caption", 0, 7), IDCANCEL);
 }
@@ -235,49 +225,60 @@ TEST_F(Error_Handler, AParentTakesInformationAndTheEnd) {
     EXPECT_EQ(m_machine.log_of(L"log"), "from: the child\n\n");
 }
 
-TEST_F(Error_Handler, AParentThatTakesEverythingGetsItWhole) {
-    auto* const recorder = new Recorder;
-    const Pointer parent(recorder);
-    const Pointer child(new Test_Handler(parent));
-    static constexpr auto retry = PX_Error_Handler::Result_Retry;
-    const struct {
-        const wchar_t* told;
-        int asked;
-        void (*call)(PX_Error_Handler&);
-    } rows[] = {
-        {L"info 7 8 f d tag ", PX_Exception::Handler_Info,
-         [](PX_Error_Handler& h) { h.info(7, 8, L"f", L"d", L"tag"); }},
-        {L"info_message text ", PX_Exception::Handler_Info,
-         [](PX_Error_Handler& h) { h.info_message(L"text"); }},
-        {L"warning 7 8 f d tag ", PX_Exception::Handler_Warning,
-         [](PX_Error_Handler& h) { EXPECT_EQ(h.warning(7, 8, L"f", L"d", L"tag"), retry); }},
-        {L"error 7 8 f d tag ", PX_Exception::Handler_Error,
-         [](PX_Error_Handler& h) { EXPECT_EQ(h.error(7, 8, L"f", L"d", L"tag"), retry); }},
-        {L"ARI_error 7 8 f d tag ", PX_Exception::Handler_ARI,
-         [](PX_Error_Handler& h) { EXPECT_EQ(h.ARI_error(7, 8, L"f", L"d", L"tag"), retry); }},
-        {L"severe_error 7 8 f d tag ", PX_Exception::Handler_Severe,
-         [](PX_Error_Handler& h) { h.severe_error(7, 8, L"f", L"d", L"tag"); }},
-        {L"terminal_error 7 8 f d tag ", PX_Exception::Handler_Terminal,
-         [](PX_Error_Handler& h) { h.terminal_error(7, 8, L"f", L"d", L"tag"); }},
-        // These are the parent's in any case.
-        {L"box text caption 1 9 ", -1,
-         [](PX_Error_Handler& h) { EXPECT_EQ(h.message_box(L"text", L"caption", 1, 9), 42); }},
-        {L"log caption text ", -1, [](PX_Error_Handler& h) { h.LogMessage(L"caption", L"text"); }},
-        {L"path 1 frame ", -1,
-         [](PX_Error_Handler& h) {
-             const wchar_t* names[] = {L"frame"};
-             h.LogPath(names, 1);
-         }},
-    };
-    child->set_log_mode(true);
-    child->set_log_handle(L"log");
-    for (const auto& row : rows) {
-        recorder->asked = -1;
-        recorder->told.clear();
-        row.call(*child);
-        EXPECT_EQ(recorder->told, row.told);
-        EXPECT_EQ(recorder->asked, row.asked) << testing::PrintToString(row.told);
+class Kind_Of : public PX_Exception {
+public:
+    explicit Kind_Of(int kind)
+        : PX_Exception(1103, L"f", L"d", L"tag", 7), m_kind(static_cast<Handler>(kind)) {
+        push_frame(L"frame");
     }
+    Handler get_handler() const override { return m_kind; }
+
+private:
+    Handler m_kind;
+};
+
+TEST_F(Error_Handler, ReportsGoWholeToTheirOperation) {
+    auto* const parent = new Recorder;
+    const Pointer held(parent);
+    const Pointer child(new Test_Handler(held));
+    child->set_log_handle(L"log");
+    const auto expect_told = [&](const std::wstring& told, int asked, auto report) {
+        parent->asked = -1;
+        parent->told.clear();
+        report();
+        EXPECT_EQ(parent->told, told);
+        EXPECT_EQ(parent->asked, asked) << testing::PrintToString(told);
+    };
+    const std::wstring path = L"path 1 frame ", all = L" 7 1103 f d tag ";
+    const auto expect_by_kind = [&](int kind, const std::wstring& told, Result result) {
+        expect_told(told, -1, [&] { EXPECT_EQ(px_report_by_kind(*parent, Kind_Of(kind)), result) << kind; });
+    };
+    // A child passes each on to a parent that takes its kind; an exception of the kind goes there too.
+#define EXPECT_REPORT(kind, name, result)                                                  \
+    expect_told(L"" #name + all, kind, [&] { child->name(7, 1103, L"f", L"d", L"tag"); }); \
+    expect_by_kind(kind, path + L"" #name + all, PX_Error_Handler::result)
+    EXPECT_REPORT(0, info, Result_Ignore);
+    EXPECT_REPORT(1, warning, Result_Retry);
+    EXPECT_REPORT(2, error, Result_Retry);
+    EXPECT_REPORT(3, ARI_error, Result_Retry);
+    EXPECT_REPORT(4, severe_error, Result_Ignore);
+    EXPECT_REPORT(5, terminal_error, Result_Ignore);
+#undef EXPECT_REPORT
+    expect_by_kind(99, path + L"error" + all, PX_Error_Handler::Result_Retry);
+    expect_by_kind(PX_Exception::Handler_None, L"", PX_Error_Handler::Result_Abort);
+    expect_told(path + L"ARI_error" + all, -1, [&] { px_report_as_ARI(*parent, Kind_Of(0)); });
+    expect_told(path + L"severe_error" + all, -1, [&] { px_report_as_severe(*parent, Kind_Of(0)); });
+
+    EXPECT_EQ(child->warning(0, 1, L"", L"", L""), PX_Error_Handler::Result_Retry);
+    EXPECT_EQ(child->error(0, 1, L"", L"", L""), PX_Error_Handler::Result_Retry);
+    EXPECT_EQ(child->ARI_error(0, 1, L"", L"", L""), PX_Error_Handler::Result_Retry);
+    expect_told(L"info_message text ", PX_Exception::Handler_Info, [&] { child->info_message(L"text"); });
+    // These are the parent's in any case.
+    expect_told(L"box text caption 1 9 ", -1,
+                [&] { EXPECT_EQ(child->message_box(L"text", L"caption", 1, 9), 42); });
+    expect_told(L"log caption text ", -1, [&] { child->LogMessage(L"caption", L"text"); });
+    const wchar_t* names[] = {L"frame"};
+    expect_told(path, -1, [&] { child->LogPath(names, 1); });
     EXPECT_TRUE(m_machine.boxes().empty());
     EXPECT_EQ(m_machine.log_of(L"log"), "");
 }
@@ -286,23 +287,15 @@ TEST_F(Error_Handler, ThePartsOfTheProgramAreTheParents) {
     auto* const recorder = new Recorder;
     const Pointer parent(recorder);
     const Pointer child(new Test_Handler(parent));
-    struct String {
-        const wchar_t* value;
-        void (PX_Error_Handler::*set)(const wchar_t*);
-        const wchar_t* (PX_Error_Handler::*get)() const;
-    };
-    const String strings[] = {
-        {L"product", &PX_Error_Handler::set_product_string, &PX_Error_Handler::get_product_string},
-        {L"program", &PX_Error_Handler::set_program_string, &PX_Error_Handler::get_program_string},
-        {L"company", &PX_Error_Handler::set_company_string, &PX_Error_Handler::get_company_string},
-    };
-    for (const auto& [value, set, get] : strings) {
-        ((*parent).*set)(value);
+    for (const auto& [set, get] :
+         {std::pair{&PX_Error_Handler::set_product_string, &PX_Error_Handler::get_product_string},
+          {&PX_Error_Handler::set_program_string, &PX_Error_Handler::get_program_string},
+          {&PX_Error_Handler::set_company_string, &PX_Error_Handler::get_company_string}}) {
+        EXPECT_STREQ(((*child).*get)(), L"") << "each has its own";
         ((*child).*set)(L"own");
-    }
-    for (const auto& [value, set, get] : strings) {
-        EXPECT_STREQ(((*parent).*get)(), value);
-        EXPECT_STREQ(((*child).*get)(), value);
+        EXPECT_STREQ(((*child).*get)(), L"");
+        ((*parent).*set)(L"theirs");
+        EXPECT_STREQ(((*child).*get)(), L"theirs");
     }
     EXPECT_EQ(child->get_progress(), nullptr);
     recorder->progress = new PX_Progress;
@@ -358,73 +351,6 @@ TEST_F(Error_Handler, AChildThatDoesNotComeIntoBeingLeavesItsParent) {
     EXPECT_THROW(Test_Handler{parent}, int);
     EXPECT_EQ(recorder->told, L"left ");
     parent->set_quiet_mode(true);
-}
-
-class Kind_Of : public PX_Exception {
-public:
-    explicit Kind_Of(Handler kind) : PX_Exception(1103, L"f", L"d", L"tag", 7), m_kind(kind) {}
-    Handler get_handler() const override { return m_kind; }
-
-private:
-    Handler m_kind;
-};
-
-TEST_F(Error_Handler, GetsAllThatAnExceptionSaysAfterItsPath) {
-    Recorder handler;
-    using Kind = PX_Exception;
-    for (const auto& [kind, told] :
-         {std::pair{Kind::Handler_Info, L"info"}, std::pair{Kind::Handler_Warning, L"warning"},
-          std::pair{Kind::Handler_Error, L"error"}, std::pair{Kind::Handler_ARI, L"ARI_error"},
-          std::pair{Kind::Handler_Severe, L"severe_error"},
-          std::pair{Kind::Handler_Terminal, L"terminal_error"}}) {
-        Kind_Of caught(kind);
-        caught.push_frame(L"frame");
-        const auto expect_told = [&](const wchar_t* operation, auto report) {
-            handler.told.clear();
-            report(handler, caught);
-            EXPECT_EQ(handler.told, std::wstring(L"path 1 frame ") + operation + L" 7 1103 f d tag ");
-        };
-        expect_told(told, px_report_by_kind);
-        expect_told(L"ARI_error", px_report_as_ARI);
-        expect_told(L"severe_error", px_report_as_severe);
-    }
-}
-
-TEST_F(Error_Handler, ReportsAnExceptionByItsKind) {
-    struct Case {
-        int kind;
-        const wchar_t* caption;
-        Result result;  // with nobody at the box
-    };
-    m_handler.set_log_handle(L"log");
-    for (const Case& row :
-         {Case{0, L"Info", PX_Error_Handler::Result_Ignore},
-          Case{1, L"Warning", PX_Error_Handler::Result_Abort},
-          Case{2, L"Error", PX_Error_Handler::Result_Abort}, Case{3, L"ARI", PX_Error_Handler::Result_Abort},
-          Case{4, L"Severe", PX_Error_Handler::Result_Ignore},
-          Case{5, L"Terminal", PX_Error_Handler::Result_Ignore},
-          Case{99, L"Error", PX_Error_Handler::Result_Abort}}) {
-        Kind_Of caught(static_cast<PX_Exception::Handler>(row.kind));
-        caught.push_frame(row.caption);
-        EXPECT_EQ(px_report_by_kind(m_handler, caught), row.result) << row.kind;
-        EXPECT_EQ(m_machine.boxes().back().caption, row.caption);
-    }
-    EXPECT_TRUE(m_machine.log_of(L"log").starts_with("Path:\nInfo\nPath:\nWarning\n"))
-        << "the path is written whatever the modes";
-
-    const auto log = m_machine.log_of(L"log");
-    const auto boxes = m_machine.boxes().size();
-    Kind_Of nothing(PX_Exception::Handler_None);
-    nothing.push_frame(L"frame");
-    EXPECT_EQ(px_report_by_kind(m_handler, nothing), PX_Error_Handler::Result_Abort);
-    EXPECT_EQ(m_machine.log_of(L"log"), log);
-    EXPECT_EQ(m_machine.boxes().size(), boxes);
-
-    MVNK_Warning warning(1103);
-    m_machine.answer_next_box(IDRETRY);
-    EXPECT_EQ(px_report_as_ARI(m_handler, warning), PX_Error_Handler::Result_Retry);
-    px_report_as_severe(m_handler, warning);
-    EXPECT_EQ(m_machine.boxes().back().caption, L"Severe");
 }
 
 }  // namespace

@@ -84,14 +84,11 @@ TEST(ObjectList, RemovesByIdentityAndSharesItsElements) {
 
 TEST(ObjectList, LetsAWalkRemoveWhatItWasJustGiven) {
     Entry_List list;
-    for (const wchar_t* const name : {L"a", L"b", L"c", L"d", L"e"}) {
-        const bool user = std::wstring(L"abe").find(name) != std::wstring::npos;
-        list.append(new Entry(name, user ? PX_Caps_Type::Caps_Type_User : PX_Caps_Type::Caps_Type_Modified));
-    }
+    fill(list, L"abcde");
     const std::unique_ptr<Entry_List::iterator> entries(list.get_iterator());
     while (entries->has_next()) {
         const Entry_Pointer entry = entries->next();
-        if (entry->get_caps_type() == PX_Caps_Type::Caps_Type_User) {
+        if (std::wstring(L"abe").find(entry->get_canonical_name()) != std::wstring::npos) {
             EXPECT_TRUE(list.remove(entry.get()));
         }
     }

@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <string>
+#include <tuple>
 #include <utility>
 
 #include "tests/support/allocations.h"
@@ -15,70 +16,85 @@ using support::Device;
 using support::expect_thrown;
 using support::Test_Handler;
 
-// The creator gives exactly the standard class, without a reference, and null when there is no memory.
+// The creator gives exactly the standard class, without a reference, and null when there is no memory for it
+// or for what it holds.
 template <class Standard, class Create>
 void expect_made(Create create) {
-    {
-        const PX_Smart_Pointer made(create());
-        ASSERT_NE(made, nullptr) << typeid(Standard).name();
-        EXPECT_EQ(SPMP()->get_count(made.get()), 1);
-        const auto& object = *made;
-        EXPECT_EQ(typeid(object), typeid(Standard));
-    }
-    const support::Out_Of_Memory none;
-    EXPECT_EQ(create(), nullptr) << typeid(Standard).name();
-}
-
-// Null, whichever allocation it is that fails.
-template <class Create>
-void expect_null_until_there_is_memory(Create create) {
+    SCOPED_TRACE(typeid(Standard).name());
     int failures = 0;
-    for (;; ++failures) {
-        const auto made = [&] {
-            const support::Out_Of_Memory none(failures);
-            return create();
-        }();
-        if (const PX_Smart_Pointer owned(made); owned)
-            break;
-    }
-    EXPECT_GE(failures, 2);
+    const auto attempt = [&] {
+        const support::Out_Of_Memory none(failures);
+        return create();
+    };
+    auto* made = attempt();
+    for (; !made; made = attempt())
+        ++failures;
+    EXPECT_GT(failures, 0);
+    const PX_Smart_Pointer held(made);
+    EXPECT_EQ(SPMP()->get_count(made), 1);
+    const auto& object = *made;
+    EXPECT_EQ(typeid(object), typeid(Standard));
 }
 
 TEST(Class_Factory, MakesTheStandardClasses) {
     const PX_Std_Plotter_Class_Factory factory;
     const Device device;
     PX_Plotter_Definition* const plotter = device.get();
-    const PX_Smart_Pointer<PX_Error_Handler> handler(new Test_Handler);
-    expect_made<PX_Std_InitTerm_Capabilities>([&] { return factory.MK_Create_InitTerm_Capabilities(); });
-    expect_made<PX_Std_InitTerm_Configuration>([&] { return factory.MK_Create_InitTerm_Configuration(); });
-    expect_made<PX_Std_InitTerm_Validator>([&] { return factory.MK_Create_InitTerm_Validator(plotter); });
+#define EXPECT_MADE(name, ...) \
+    expect_made<PX_Std_##name>([&] { return factory.MK_Create_##name(__VA_ARGS__); })
+#define EXPECT_LIST(name, element) \
+    expect_made<PX_Named_Object_List<PX_##element>>([&] { return factory.MK_Create_##name(); })
+    EXPECT_MADE(InitTerm_Capabilities);
+    EXPECT_MADE(InitTerm_Configuration);
+    EXPECT_MADE(InitTerm_Validator, plotter);
     expect_made<PX_Searchable_Atomic_Object_List<PX_Parity::Enum>>(
         [&] { return factory.MK_Create_Parity_List(); });
     expect_made<PX_Searchable_Atomic_Object_List<PX_Handshake::Enum>>(
         [&] { return factory.MK_Create_Handshake_List(); });
-    expect_made<PX_Std_Model>([&] { return factory.MK_Create_Model(); });
-    expect_made<PX_Named_Object_List<PX_Model>>([&] { return factory.MK_Create_Model_List(); });
-    expect_made<PX_Std_Family>([&] { return factory.MK_Create_Family(); });
-    expect_made<PX_Named_Object_List<PX_Family>>([&] { return factory.MK_Create_Family_List(); });
-    expect_made<PX_Std_Meta_Capabilities>([&] { return factory.MK_Create_Meta_Capabilities(); });
+    EXPECT_MADE(Media_Capabilities);
+    EXPECT_MADE(Media_Configuration);
+    EXPECT_MADE(Media_Description);
+    EXPECT_LIST(Media_Description_List, Media_Description);
+    EXPECT_MADE(Media_Destination);
+    EXPECT_LIST(Media_Destination_List, Media_Destination);
+    EXPECT_MADE(Media_Collating);
+    EXPECT_LIST(Media_Collating_List, Media_Collating);
+    EXPECT_MADE(Media_Stapling);
+    EXPECT_LIST(Media_Stapling_List, Media_Stapling);
+    EXPECT_MADE(Media_Cutting);
+    EXPECT_LIST(Media_Cutting_List, Media_Cutting);
+    EXPECT_MADE(Media_Folding);
+    EXPECT_LIST(Media_Folding_List, Media_Folding);
+    EXPECT_MADE(Media_Settings);
+    EXPECT_MADE(Media_Size);
+    EXPECT_LIST(Media_Size_List, Media_Size);
+    EXPECT_MADE(Media_Source);
+    EXPECT_LIST(Media_Source_List, Media_Source);
+    EXPECT_MADE(Media_Source_Entry);
+    EXPECT_LIST(Media_Source_Entry_List, Media_Source_Entry);
+    EXPECT_MADE(Media_Validator, plotter);
+    EXPECT_MADE(Media_Type);
+    EXPECT_LIST(Media_Type_List, Media_Type);
+    EXPECT_MADE(Model);
+    EXPECT_LIST(Model_List, Model);
+    EXPECT_MADE(Family);
+    EXPECT_LIST(Family_List, Family);
+    EXPECT_MADE(Meta_Capabilities);
     expect_made<PX_Std_Caps_Name_List_Object>([&] { return factory.MK_Create_Media_Size_In_Source(); });
-    expect_made<PX_Named_Object_List<PX_Caps_Name_List_Object>>(
-        [&] { return factory.MK_Create_Media_Size_Name_List(); });
-    expect_made<PX_Std_Caps_Name_List_Object>([&] { return factory.MK_Create_Caps_Name_List_Object(); });
-    expect_made<PX_Named_Object_List<PX_Caps_Name_List_Object>>(
-        [&] { return factory.MK_Create_Caps_Name_List(); });
-    expect_made<PX_Std_Plotter_Validator>([&] { return factory.MK_Create_Plotter_Validator(plotter); });
-    expect_made<PX_Std_Plotter_Capabilities>(
-        [&] { return factory.MK_Create_Plotter_Capabilities(nullptr, L"b", L"c"); });
-    expect_made<PX_Std_Plotter_Configuration>(
-        [&] { return factory.MK_Create_Plotter_Configuration(L"a", nullptr, L"c"); });
-    expect_made<PX_Std_Plotter_Definition>([&] { return factory.MK_Create_Plotter_Definition(handler); });
-    expect_made<PX_Std_Shoebox>([&] { return factory.MK_Create_Shoebox(); });
-    expect_made<PX_Std_Kestrane_Shoebox>([&] { return factory.MK_Create_Kestrane_Shoebox(); });
-
-    expect_null_until_there_is_memory([&] { return factory.MK_Create_Meta_Capabilities(); });
-    expect_null_until_there_is_memory([&] { return factory.MK_Create_InitTerm_Configuration(); });
-    expect_null_until_there_is_memory([&] { return factory.MK_Create_Shoebox(); });
+    EXPECT_LIST(Media_Size_Name_List, Caps_Name_List_Object);
+    EXPECT_MADE(Caps_Name_List_Object);
+    EXPECT_LIST(Caps_Name_List, Caps_Name_List_Object);
+    EXPECT_MADE(Plotter_Capabilities, nullptr, L"b", L"c");
+    EXPECT_MADE(Plotter_Configuration, L"a", nullptr, L"c");
+    EXPECT_MADE(Shoebox);
+    EXPECT_MADE(Kestrane_Shoebox);
+    // What they are made of reports for itself that there is no memory.
+    const PX_Smart_Pointer<PX_Plotter_Validator> validator(factory.MK_Create_Plotter_Validator(plotter));
+    EXPECT_TRUE(dynamic_cast<PX_Std_Plotter_Validator*>(validator.get()));
+    const PX_Smart_Pointer<PX_Error_Handler> handler(new Test_Handler);
+    const PX_Smart_Pointer<PX_Plotter_Definition> made(factory.MK_Create_Plotter_Definition(handler));
+    EXPECT_TRUE(dynamic_cast<PX_Std_Plotter_Definition*>(made.get()));
+    EXPECT_EQ(made->get_error_handler(), handler);
 }
 
 TEST(Class_Factory, TheCapsLoaderOnlyReleasesTheHandler) {
@@ -89,17 +105,11 @@ TEST(Class_Factory, TheCapsLoaderOnlyReleasesTheHandler) {
 }
 
 TEST(Definition, MakesItsFactoryAndValidatorAndNothingElse) {
-    const PX_Smart_Pointer<PX_Error_Handler> handler(new Test_Handler);
-    PX_Std_Plotter_Definition plotter(handler);
-    EXPECT_EQ(plotter.get_error_handler(), handler);
-    EXPECT_NE(plotter.get_class_factory(), nullptr);
-    EXPECT_NE(plotter.get_plotter_validator(), nullptr);
-    EXPECT_EQ(plotter.get_meta_capabilities(), nullptr);
-    EXPECT_EQ(plotter.get_plotter_capabilities(), nullptr);
-    EXPECT_EQ(plotter.get_bidi_capabilities(), nullptr);
-    EXPECT_EQ(plotter.get_plotter_configuration(), nullptr);
-    EXPECT_EQ(plotter.get_bidi_configuration(), nullptr);
-    EXPECT_EQ(plotter.get_shoebox(), nullptr);
+    PX_Std_Plotter_Definition plotter(new Test_Handler);
+    EXPECT_TRUE(plotter.get_class_factory() && plotter.get_plotter_validator());
+    EXPECT_FALSE(plotter.get_meta_capabilities() || plotter.get_plotter_capabilities() ||
+                 plotter.get_bidi_capabilities() || plotter.get_plotter_configuration() ||
+                 plotter.get_bidi_configuration() || plotter.get_shoebox());
     PX_String file;
     EXPECT_FALSE(plotter.CustomConfigure(nullptr) || plotter.Custom_Config_UI_Available() ||
                  plotter.DevmodeConfigure(nullptr, true) || plotter.LongplotUI() ||
@@ -141,44 +151,31 @@ TEST(Definition, TakesRootsThemselvesAndAShoeboxAsAClone) {
     EXPECT_EQ(device->get_shoebox(), stored);
 }
 
+std::string gone;
+template <class Base, char mark>
+class Goes : public Base {
+public:
+    ~Goes() override { gone += mark; }
+};
+
 // The definition's pointers go in the reverse of their order.
 TEST(Definition, GoesDownInOrder) {
-    static std::string gone;
-    class Meta : public PX_Std_Meta_Capabilities {
-    public:
-        ~Meta() override { gone += "meta "; }
-    };
-    class Caps : public PX_Std_Plotter_Capabilities {
-    public:
-        ~Caps() override { gone += "caps "; }
-    };
-    class Cfg : public PX_Std_Plotter_Configuration {
-    public:
-        ~Cfg() override { gone += "cfg "; }
-    };
-    class Handler : public Test_Handler {
-    public:
-        ~Handler() override { gone += "handler "; }
-    };
-    class Factory : public PX_Std_Plotter_Class_Factory {
-    public:
-        ~Factory() override { gone += "factory "; }
-    };
+    using Capabilities = Goes<PX_Std_Plotter_Capabilities, 'c'>;
     class Definition : public PX_Std_Plotter_Definition {
     public:
-        Definition() : PX_Std_Plotter_Definition(new Handler) {
-            m_class_factory = new Factory;
-            m_bidi_capabilities = new Caps;
+        Definition() : PX_Std_Plotter_Definition(new Goes<Test_Handler, 'h'>) {
+            m_class_factory = new Goes<PX_Std_Plotter_Class_Factory, 'f'>;
+            m_bidi_capabilities = new Capabilities;
         }
     };
     gone.clear();
     {
         Definition plotter;
-        plotter.set_plotter_configuration(new Cfg);
-        plotter.set_meta_capabilities(new Meta);
-        plotter.set_plotter_capabilities(new Caps);
+        plotter.set_plotter_configuration(new Goes<PX_Std_Plotter_Configuration, 'C'>);
+        plotter.set_meta_capabilities(new Goes<PX_Std_Meta_Capabilities, 'm'>);
+        plotter.set_plotter_capabilities(new Capabilities);
     }
-    EXPECT_EQ(gone, "factory handler cfg caps caps meta ");
+    EXPECT_EQ(gone, "fhCccm");
 }
 
 TEST(Roots, HoldTheirOwnCopies) {
@@ -202,11 +199,7 @@ TEST(Roots, HoldTheirOwnCopies) {
 }
 
 // Domains that tell when they are cloned, and object when their name is called.
-struct Domains {
-    static inline std::string cloned;
-    static inline std::string not_validated;
-    static inline std::string not_default;
-};
+std::string cloned, not_validated, not_default;
 
 template <class Contract>
 class Pending : public Contract, public PX_Object {};
@@ -216,7 +209,7 @@ class Caps : public Base {
 public:
     explicit Caps(std::string name) : m_name(std::move(name)) {}
     Contract* clone() const override {
-        Domains::cloned += m_name + " ";
+        cloned += m_name + " ";
         return new Caps(m_name);
     }
 
@@ -228,10 +221,10 @@ template <class Contract, class Base = Pending<Contract>>
 class Cfg : public Base {
 public:
     explicit Cfg(std::string name) : m_name(std::move(name)) {}
-    bool get_validated() const override { return m_name != Domains::not_validated; }
-    bool get_default() const override { return m_name != Domains::not_default; }
+    bool get_validated() const override { return m_name != not_validated; }
+    bool get_default() const override { return m_name != not_default; }
     Contract* clone() const override {
-        Domains::cloned += m_name + " ";
+        cloned += m_name + " ";
         return new Cfg(m_name);
     }
 
@@ -239,17 +232,12 @@ private:
     std::string m_name;
 };
 
-template <class Domain>
-const Domain* of(const Domain& domain) {
-    return &domain;
-}
-
 // Each getter of the clone gives an object of the clone's own.
 template <class Root, class... Getters>
 void expect_cloned(const Root& root, const std::string& order, Getters... getters) {
-    Domains::cloned.clear();
+    cloned.clear();
     const std::unique_ptr<Root> clone(root.clone());
-    EXPECT_EQ(Domains::cloned, order);
+    EXPECT_EQ(cloned, order);
     const auto is_own = [&](auto getter) {
         return ((*clone).*getter)() && !(((*clone).*getter)() == (root.*getter)());
     };
@@ -259,29 +247,31 @@ void expect_cloned(const Root& root, const std::string& order, Getters... getter
 TEST(Roots, AreClonedWholeAndInOrder) {
     PX_Std_Plotter_Capabilities caps;
     using A = PX_Plotter_Capabilities;
-    caps.set_custom_capabilities(of(Caps<PX_Custom_Capabilities>("custom")));
-    caps.set_init_term_capabilities(
-        of(Caps<PX_InitTerm_Capabilities, PX_Std_InitTerm_Capabilities>("init-term")));
-    caps.set_res_color_mem_capabilities(of(Caps<PX_ResColorMem_Capabilities>("rcm")));
-    caps.set_linetype_capabilities(of(Caps<PX_Linetype_Capabilities>("linetypes")));
-    caps.set_raster_capabilities(of(Caps<PX_Raster_Capabilities>("raster")));
-    caps.set_phys_pen_capabilities(of(Caps<PX_PhysPen_Capabilities>("pens")));
-    caps.set_io_capabilities(of(Caps<PX_Plotter_IO_Capabilities>("io")));
-    caps.set_media_capabilities(of(Caps<PX_Media_Capabilities, PX_Std_Media_Capabilities>("media")));
+    const auto set = [](auto& root, auto setter, const auto& domain) { (root.*setter)(&domain); };
+    // clang-format off
+    set(caps, &A::set_custom_capabilities, Caps<PX_Custom_Capabilities>("custom"));
+    set(caps, &A::set_init_term_capabilities, Caps<PX_InitTerm_Capabilities, PX_Std_InitTerm_Capabilities>("init-term"));
+    set(caps, &A::set_res_color_mem_capabilities, Caps<PX_ResColorMem_Capabilities>("rcm"));
+    set(caps, &A::set_linetype_capabilities, Caps<PX_Linetype_Capabilities>("linetypes"));
+    set(caps, &A::set_raster_capabilities, Caps<PX_Raster_Capabilities>("raster"));
+    set(caps, &A::set_phys_pen_capabilities, Caps<PX_PhysPen_Capabilities>("pens"));
+    set(caps, &A::set_io_capabilities, Caps<PX_Plotter_IO_Capabilities>("io"));
+    set(caps, &A::set_media_capabilities, Caps<PX_Media_Capabilities, PX_Std_Media_Capabilities>("media"));
     expect_cloned<A>(caps, "media io pens raster linetypes rcm init-term custom ", &A::get_media_capabilities,
                      &A::get_io_capabilities, &A::get_phys_pen_capabilities, &A::get_raster_capabilities,
                      &A::get_linetype_capabilities, &A::get_res_color_mem_capabilities,
                      &A::get_init_term_capabilities, &A::get_custom_capabilities);
 
     PX_Std_Plotter_Configuration cfg;
+    EXPECT_TRUE(cfg.get_validated() && cfg.get_default()) << "nothing objects in an empty root";
     using B = PX_Plotter_Configuration;
-    cfg.set_custom_configuration(of(Cfg<PX_Custom_Configurations>("custom")));
-    cfg.set_phys_pen_configuration(of(Cfg<PX_PhysPen_Configuration>("pens")));
-    cfg.set_init_term_configuration(
-        of(Cfg<PX_InitTerm_Configuration, PX_Std_InitTerm_Configuration>("init-term")));
-    cfg.set_res_color_mem_configuration(of(Cfg<PX_ResColorMem_Configuration>("rcm")));
-    cfg.set_io_configuration(of(Cfg<PX_Plotter_IO_Configuration>("io")));
-    cfg.set_media_configuration(of(Cfg<PX_Media_Configuration, PX_Std_Media_Configuration>("media")));
+    set(cfg, &B::set_custom_configuration, Cfg<PX_Custom_Configurations>("custom"));
+    set(cfg, &B::set_phys_pen_configuration, Cfg<PX_PhysPen_Configuration>("pens"));
+    set(cfg, &B::set_init_term_configuration, Cfg<PX_InitTerm_Configuration, PX_Std_InitTerm_Configuration>("init-term"));
+    set(cfg, &B::set_res_color_mem_configuration, Cfg<PX_ResColorMem_Configuration>("rcm"));
+    set(cfg, &B::set_io_configuration, Cfg<PX_Plotter_IO_Configuration>("io"));
+    set(cfg, &B::set_media_configuration, Cfg<PX_Media_Configuration, PX_Std_Media_Configuration>("media"));
+    // clang-format on
     expect_cloned<B>(cfg, "media io rcm init-term pens custom ", &B::get_media_configuration,
                      &B::get_io_configuration, &B::get_res_color_mem_configuration,
                      &B::get_init_term_configuration, &B::get_phys_pen_configuration,
@@ -289,24 +279,12 @@ TEST(Roots, AreClonedWholeAndInOrder) {
 
     EXPECT_TRUE(cfg.get_validated() && cfg.get_default());
     for (const char* const name : {"media", "io", "rcm", "init-term", "pens", "custom"}) {
-        Domains::not_validated = name;
+        not_validated = name;
         EXPECT_TRUE(!cfg.get_validated() && cfg.get_default()) << name;
-        Domains::not_validated.clear();
-        Domains::not_default = name;
+        not_default = std::exchange(not_validated, "");
         EXPECT_TRUE(cfg.get_validated() && !cfg.get_default()) << name;
-        Domains::not_default.clear();
+        not_default.clear();
     }
-}
-
-TEST(Roots, AreAsValidatedAsTheirDomains) {
-    PX_Std_Plotter_Configuration cfg;
-    EXPECT_TRUE(cfg.get_validated() && cfg.get_default()) << "nothing objects in an empty root";
-    const PX_Std_InitTerm_Configuration init_term;
-    cfg.set_init_term_configuration(&init_term);
-    EXPECT_FALSE(cfg.get_validated() || cfg.get_default());
-    cfg.get_init_term_configuration()->set_validated(true);
-    EXPECT_TRUE(cfg.get_validated());
-    EXPECT_FALSE(cfg.get_default());
 }
 
 TEST(Shoebox, IgnoresWhatItCannotKeep) {
@@ -321,18 +299,11 @@ TEST(Shoebox, IgnoresWhatItCannotKeep) {
     }
     host->set_spool_announce(PX_Spool_Announce::Box_Always);
     EXPECT_EQ(host->get_spool_announce(), 3);
-    struct Text {
-        void (PX_Kestrane_Shoebox::*set)(const wchar_t*);
-        const wchar_t* (PX_Kestrane_Shoebox::*get)() const;
-        const wchar_t* value;
-    };
-    const Text texts[] = {
-        {&PX_Kestrane_Shoebox::set_app_path, &PX_Kestrane_Shoebox::get_app_path, L"app"},
-        {&PX_Kestrane_Shoebox::set_plot_to_file_pathname, &PX_Kestrane_Shoebox::get_plot_to_file_pathname,
-         L"file"},
-        {&PX_Kestrane_Shoebox::set_drawing_name, &PX_Kestrane_Shoebox::get_drawing_name, L"drawing"},
-        {&PX_Kestrane_Shoebox::set_temp_path, &PX_Kestrane_Shoebox::get_temp_path, L"temp"},
-    };
+    // clang-format off
+#define TEXT(name) std::tuple{&PX_Kestrane_Shoebox::set_##name, &PX_Kestrane_Shoebox::get_##name, L"" #name}
+    const auto texts = {TEXT(app_path), TEXT(plot_to_file_pathname), TEXT(drawing_name), TEXT(temp_path)};
+#undef TEXT
+    // clang-format on
     for (const auto& [set, get, value] : texts) {
         ((*host).*set)(value);
         ((*host).*set)(nullptr);

@@ -1,11 +1,8 @@
 #include <gtest/gtest.h>
 
-#include <array>
 #include <memory>
 
-#include "tests/support/allocations.h"
 #include "tests/support/device.h"
-#include "tests/support/expect_exception.h"
 #include "tests/support/fields.h"
 
 namespace {
@@ -21,26 +18,22 @@ using Strategy = PX_Validation_Strategy;
 
 // What the three strings have in common.
 struct Datum {
-    Flag::Enum flag;
     const wchar_t* name;
+    Flag::Enum flag;
     PX_Smart_Pointer<PX_Dev_String> (Configuration::*get)() const;
     void (Configuration::*set_bytes)(unsigned char*, long);
     void (Configuration::*set_string)(const PX_Dev_String*);
     void (Validator::*validate)(Strategy::Enum);
     void (Validator::*set_to_default)();
 };
-
-const std::array<Datum, 3> data = {{
-    {Flag::Preinit_String, L"preinit", &Configuration::get_preinit_string, &Configuration::set_preinit_string,
-     &Configuration::set_preinit_string, &Validator::validate_preinit_string,
-     &Validator::set_preinit_string_to_default},
-    {Flag::Postinit_String, L"postinit", &Configuration::get_postinit_string,
-     &Configuration::set_postinit_string, &Configuration::set_postinit_string,
-     &Validator::validate_postinit_string, &Validator::set_postinit_string_to_default},
-    {Flag::Termination_String, L"termination", &Configuration::get_termination_string,
-     &Configuration::set_termination_string, &Configuration::set_termination_string,
-     &Validator::validate_termination_string, &Validator::set_termination_string_to_default},
-}};
+#define STRING(name, flag)                                                                               \
+    {                                                                                                    \
+        L"" #name, Flag::flag, &Configuration::get_##name, &Configuration::set_##name,                   \
+            &Configuration::set_##name, &Validator::validate_##name, &Validator::set_##name##_to_default \
+    }
+const Datum data[] = {STRING(preinit_string, Preinit_String), STRING(postinit_string, Postinit_String),
+                      STRING(termination_string, Termination_String)};
+#undef STRING
 
 const std::string with_zeros("\0a\0", 3);
 
@@ -71,52 +64,44 @@ TEST(Dev_String, LeavesABufferThatIsCounted) {
 TEST(InitTerm_Configuration, SettersStoreCopiesAndClearBothFlags) {
     PX_Std_InitTerm_Configuration cfg;
     std::string source = with_zeros;
+    auto* const raw = reinterpret_cast<unsigned char*>(source.data());
+    const PX_Dev_String string = dev_string(with_zeros), empty;
     for (const Datum& datum : data) {
         SCOPED_TRACE(testing::PrintToString(datum.name));
+        const auto expect_stored = [&](const std::string& expected) {
+            EXPECT_EQ(bytes((cfg.*datum.get)()), expected);
+            for (const Datum& other : data) {
+                EXPECT_EQ(cfg.get_one_validated(other.flag), other.flag != datum.flag);
+                EXPECT_EQ(cfg.get_one_default(other.flag), other.flag != datum.flag);
+            }
+            cfg.set_validated(true);
+            cfg.set_default(true);
+        };
         EXPECT_EQ(bytes((cfg.*datum.get)()), "") << "a new string is empty and there";
         cfg.set_validated(true);
         cfg.set_default(true);
-        auto* const raw = reinterpret_cast<unsigned char*>(source.data());
         (cfg.*datum.set_bytes)(raw, 3);
-        for (const Datum& other : data) {
-            EXPECT_EQ(cfg.get_one_validated(other.flag), other.flag != datum.flag);
-            EXPECT_EQ(cfg.get_one_default(other.flag), other.flag != datum.flag);
-        }
         source[1] = 'b';
-        EXPECT_EQ(bytes((cfg.*datum.get)()), with_zeros);
+        expect_stored(with_zeros);
         source[1] = 'a';
         (cfg.*datum.set_bytes)(raw, 0);
-        EXPECT_EQ(bytes((cfg.*datum.get)()), "(null)");
-        const PX_Dev_String empty;
+        expect_stored("(null)");
         (cfg.*datum.set_string)(&empty);
-        EXPECT_EQ(bytes((cfg.*datum.get)()), "") << "an empty string is not a missing one";
+        expect_stored("");
         (cfg.*datum.set_bytes)(nullptr, 3);
-        EXPECT_EQ(bytes((cfg.*datum.get)()), "(null)");
+        expect_stored("(null)");
         (cfg.*datum.set_string)(nullptr);
-        EXPECT_EQ(bytes((cfg.*datum.get)()), "(null)");
-    }
-}
-
-// Whether it is the string, its bytes or its count that finds no memory.
-TEST(InitTerm_Configuration, AStringThatFindsNoMemoryLeavesTheOldOne) {
-    PX_Std_InitTerm_Configuration cfg;
-    std::string source = with_zeros;
-    const PX_Dev_String string = dev_string(with_zeros);
-    for (const Datum& datum : data) {
-        SCOPED_TRACE(testing::PrintToString(datum.name));
+        expect_stored("(null)");
+        // Whether it is the string, its bytes or its count that finds no memory, the old one stays.
         for (const bool of_bytes : {true, false}) {
             const auto held = (cfg.*datum.get)();
-            cfg.set_validated(true);
             const auto failures = support::failures_of([&] {
                 EXPECT_EQ((cfg.*datum.get)(), held);
                 EXPECT_TRUE(cfg.get_one_validated(datum.flag));
-                if (of_bytes)
-                    (cfg.*datum.set_bytes)(reinterpret_cast<unsigned char*>(source.data()), 3);
-                else
-                    (cfg.*datum.set_string)(&string);
+                of_bytes ? (cfg.*datum.set_bytes)(raw, 3) : (cfg.*datum.set_string)(&string);
             });
             EXPECT_EQ(failures.size(), 3U);
-            EXPECT_NE((cfg.*datum.get)(), held);
+            expect_stored(with_zeros);
         }
     }
 }
@@ -137,77 +122,53 @@ TEST(InitTerm_Configuration, ADriverSeesItsFlagsCleared) {
     EXPECT_EQ(cfg.told, " -v0 -d0 -v1 -d1 -v2 -d2");
 }
 
-TEST(InitTerm_Configuration, TheAggregateLooksAtAllThree) {
+TEST(InitTerm, ClonesAreDeepKeepTheFlagsAndReportNoMemory) {
     PX_Std_InitTerm_Configuration cfg;
+    const PX_Dev_String string = dev_string(with_zeros);
+    cfg.set_preinit_string(&string);
+    cfg.set_postinit_string(nullptr, 0);
     for (const Datum& datum : data) {
         EXPECT_FALSE(cfg.get_default() || cfg.get_validated());
         cfg.set_one_default(true, datum.flag);
         cfg.set_one_validated(true, datum.flag);
     }
     EXPECT_TRUE(cfg.get_default() && cfg.get_validated());
-}
-
-TEST(InitTerm_Configuration, ACloneIsDeepAndKeepsTheFlags) {
-    PX_Std_InitTerm_Configuration cfg;
-    const PX_Dev_String string = dev_string(with_zeros);
-    cfg.set_preinit_string(&string);
-    cfg.set_postinit_string(nullptr, 0);
-    cfg.set_one_validated(true, Flag::Preinit_String);
-    cfg.set_one_default(true, Flag::Termination_String);
+    cfg.set_one_validated(false, Flag::Postinit_String);
+    cfg.set_one_default(false, Flag::Termination_String);
     const std::unique_ptr<Configuration> clone(cfg.clone());
     EXPECT_EQ(bytes(clone->get_preinit_string()), with_zeros);
     EXPECT_NE(clone->get_preinit_string(), cfg.get_preinit_string());
     EXPECT_EQ(bytes(clone->get_postinit_string()), "(null)");
     EXPECT_EQ(bytes(clone->get_termination_string()), "");
     for (const Datum& datum : data) {
-        EXPECT_EQ(clone->get_one_validated(datum.flag), datum.flag == Flag::Preinit_String);
-        EXPECT_EQ(clone->get_one_default(datum.flag), datum.flag == Flag::Termination_String);
+        EXPECT_EQ(clone->get_one_validated(datum.flag), datum.flag != Flag::Postinit_String);
+        EXPECT_EQ(clone->get_one_default(datum.flag), datum.flag != Flag::Termination_String);
     }
+    support::expect_clone_reports_no_memory<Configuration>(cfg, L"PX_Std_InitTerm_Configuration::clone");
+
+    PX_Std_InitTerm_Capabilities caps;
+    EXPECT_STREQ(caps.get_abilities(), L"000");
+    EXPECT_STREQ(caps.get_ui_owner(), L"000");
+    caps.set_abilities(L"12345");
+    caps.set_ui_owner(L"321");
+    const std::unique_ptr<PX_InitTerm_Capabilities> copy(caps.clone());
+    EXPECT_STREQ(copy->get_abilities(), L"12345");
+    EXPECT_STREQ(copy->get_ui_owner(), L"321");
+    support::expect_clone_reports_no_memory<PX_InitTerm_Capabilities>(caps,
+                                                                      L"PX_Std_InitTerm_Capabilities::clone");
 }
 
 TEST(InitTerm, FlagsAreCheckedAgainstTheirEnums) {
     PX_Std_InitTerm_Capabilities caps;
-    PX_Std_InitTerm_Configuration cfg;
+    const PX_Std_InitTerm_Configuration cfg;
     const auto outside = static_cast<Flag::Enum>(3);
-    constexpr const wchar_t* header = L"toolkit/marvcon/std_init_term_cfg";
-    expect_thrown<PX_Severe_Error>([&] { caps.get_one_ability(outside); }, 1104, header,
-                                   L"PX_InitTerm_Ability_Flags::Enum");
-    expect_thrown<PX_Severe_Error>(
-        [&] { caps.get_one_ui_owner(static_cast<PX_InitTerm_UI_Owner_Flags::Enum>(3)); }, 1104, header,
-        L"PX_InitTerm_UI_Owner_Flags::Enum");
-    expect_thrown<PX_Severe_Error>([&] { cfg.get_one_default(outside); }, 1104, header,
-                                   L"PX_InitTerm_Ability_Flags::Enum");
-    EXPECT_STREQ(caps.get_abilities(), L"000");
-    EXPECT_STREQ(caps.get_ui_owner(), L"000");
-}
-
-TEST(InitTerm, ClonesReportNoMemory) {
-    PX_Std_InitTerm_Capabilities caps;
-    caps.set_abilities(L"12345");
-    caps.set_ui_owner(L"321");
-    const std::unique_ptr<PX_InitTerm_Capabilities> clone(caps.clone());
-    EXPECT_STREQ(clone->get_abilities(), L"12345");
-    EXPECT_STREQ(clone->get_ui_owner(), L"321");
-
-    // Whichever allocation fails, of the object or of what it holds.
-    PX_Std_InitTerm_Configuration cfg;
-    const PX_Dev_String string = dev_string(with_zeros);
-    cfg.set_termination_string(&string);
-    const auto failures_of = [](const auto& object, const wchar_t* function) {
-        int failures = 0;
-        for (;; ++failures) {
-            const support::Out_Of_Memory none(failures);
-            const std::optional<support::Thrown> thrown = support::thrown_by([&] { delete object.clone(); });
-            if (!thrown)
-                return failures;
-            EXPECT_EQ(thrown->code, 1101U) << failures;
-            EXPECT_EQ(thrown->function, function);
-            EXPECT_EQ(thrown->detail, L"new_one");
-            EXPECT_TRUE(thrown->is<MVNK_Memory_Exception>());
-        }
+    const auto expect_outside = [](const wchar_t* enum_name, auto call) {
+        expect_thrown<PX_Severe_Error>(call, 1104, L"toolkit/marvcon/std_init_term_cfg", enum_name);
     };
-    EXPECT_GE(failures_of(caps, L"PX_Std_InitTerm_Capabilities::clone"), 3);
-    EXPECT_GE(failures_of(cfg, L"PX_Std_InitTerm_Configuration::clone"), 8);
+    expect_outside(L"PX_InitTerm_Ability_Flags::Enum", [&] { caps.get_one_ability(outside); });
+    expect_outside(L"PX_InitTerm_UI_Owner_Flags::Enum",
+                   [&] { caps.get_one_ui_owner(static_cast<PX_InitTerm_UI_Owner_Flags::Enum>(3)); });
+    expect_outside(L"PX_InitTerm_Ability_Flags::Enum", [&] { cfg.get_one_default(outside); });
 }
 
 class InitTerm_Validator : public testing::Test {
@@ -216,33 +177,23 @@ protected:
     PX_Std_InitTerm_Validator m_validator{m_device.get()};
     PX_Smart_Pointer<Configuration> m_cfg = m_device.init_term_cfg();
     PX_Smart_Pointer<PX_InitTerm_Capabilities> m_caps = m_device.init_term_caps();
+    const PX_Dev_String m_string = dev_string(with_zeros);
 };
 
-TEST_F(InitTerm_Validator, AcceptsAnyBytesAndLeavesTheDefaultFlag) {
-    m_caps->set_abilities(PX_Ability_Value::Ability_Required);
-    for (const Datum& datum : data) {
-        const PX_Dev_String string = dev_string(with_zeros);
-        ((*m_cfg).*datum.set_string)(&string);
-        m_cfg->set_one_default(true, datum.flag);
-        (m_validator.*datum.validate)(Strategy::Use_Nearest);
-        EXPECT_TRUE(m_cfg->get_one_validated(datum.flag));
-        EXPECT_TRUE(m_cfg->get_one_default(datum.flag));
-        EXPECT_EQ(bytes(((*m_cfg).*datum.get)()), with_zeros);
-        ((*m_cfg).*datum.set_string)(&string);
-        EXPECT_FALSE(m_cfg->get_one_validated(datum.flag) || m_cfg->get_one_default(datum.flag));
-    }
-}
-
-TEST_F(InitTerm_Validator, EmptiesAStringOnlyWhereTheDeviceHasIt) {
+TEST_F(InitTerm_Validator, AcceptsAnyBytesAndEmptiesAStringOnlyWhereTheDeviceHasIt) {
     for (const Datum& datum : data) {
         for (const int ability : {-1, 0, 1, 5}) {
             SCOPED_TRACE(ability);
-            const PX_Dev_String string = dev_string(with_zeros);
-            ((*m_cfg).*datum.set_string)(&string);
             m_caps->set_one_ability(static_cast<PX_Ability_Value::Enum>(ability), datum.flag);
+            ((*m_cfg).*datum.set_string)(&m_string);
+            (m_validator.*datum.validate)(Strategy::Use_Nearest);
+            EXPECT_TRUE(m_cfg->get_one_validated(datum.flag) && !m_cfg->get_one_default(datum.flag));
+            EXPECT_EQ(bytes(((*m_cfg).*datum.get)()), with_zeros);
             (m_validator.*datum.set_to_default)();
             EXPECT_EQ(bytes(((*m_cfg).*datum.get)()), ability > 0 ? "" : with_zeros);
             EXPECT_TRUE(m_cfg->get_one_validated(datum.flag) && m_cfg->get_one_default(datum.flag));
+            (m_validator.*datum.validate)(Strategy::Use_Nearest);
+            EXPECT_TRUE(m_cfg->get_one_default(datum.flag)) << "it stays a default";
         }
     }
     EXPECT_EQ(m_device.validator()->get_config_changed(), 0) << "these data raise no bit";
@@ -266,36 +217,35 @@ TEST_F(InitTerm_Validator, GroupsCallTheOverridesInOrderAndEndAtTheFirstFailure)
             throw MVNK_Error(1, L"Driver");
         }
     } driver(m_device.get());
-    const auto validating = expect_thrown<PX_Exception>(
-        [&] { driver.validate_all_init_term(Strategy::Use_Default); }, 1, L"Driver", L"");
-    EXPECT_EQ(validating.frames,
-              std::vector<std::wstring>{L"PX_Std_InitTerm_Validator::validate_all_init_term"});
-    const auto defaulting =
-        expect_thrown<PX_Exception>([&] { driver.set_all_init_term_to_defaults(); }, 1, L"Driver", L"");
-    EXPECT_EQ(defaulting.frames,
-              std::vector<std::wstring>{L"PX_Std_InitTerm_Validator::set_all_init_term_to_defaults"});
+    const auto expect_frame = [](const wchar_t* frame, auto call) {
+        EXPECT_EQ(expect_thrown<PX_Exception>(call, 1, L"Driver", L"").frames,
+                  std::vector<std::wstring>{frame});
+    };
+    expect_frame(L"PX_Std_InitTerm_Validator::validate_all_init_term",
+                 [&] { driver.validate_all_init_term(Strategy::Use_Default); });
+    expect_frame(L"PX_Std_InitTerm_Validator::set_all_init_term_to_defaults",
+                 [&] { driver.set_all_init_term_to_defaults(); });
     EXPECT_EQ(driver.calls, "12456");
 }
 
 TEST_F(InitTerm_Validator, ReportsWhatIsMissing) {
     constexpr const wchar_t* roots = L"plotter_caps or plotter_cfg";
     constexpr const wchar_t* domain = L"initterm_caps or initterm_cfg";
-    // All three validate operations report under one name.
-    constexpr const wchar_t* validating = L"PX_Std_InitTerm_Validator::validate_preinit_string";
     const auto expect_all = [&](const wchar_t* for_validate, const wchar_t* for_default) {
         for (const Datum& datum : data) {
-            const std::wstring defaulting =
-                std::wstring(L"PX_Std_InitTerm_Validator::set_") + datum.name + L"_string_to_default";
-            if (for_validate) {
-                const auto thrown =
-                    expect_thrown<MVNK_Error>([&] { (m_validator.*datum.validate)(Strategy::Use_Default); },
-                                              1103, validating, for_validate);
-                EXPECT_EQ(thrown.file, L"$Workfile: std_init_term_cfg $ $Revision: #1 $");
-            } else {
-                EXPECT_NO_THROW((m_validator.*datum.validate)(Strategy::Use_Default));
-            }
-            expect_thrown<MVNK_Error>([&] { (m_validator.*datum.set_to_default)(); }, 1103, defaulting,
-                                      for_default);
+            const auto validate = [&] { (m_validator.*datum.validate)(Strategy::Use_Default); };
+            // All three report under one name.
+            if (for_validate)
+                EXPECT_EQ(
+                    expect_thrown<MVNK_Error>(
+                        validate, 1103, L"PX_Std_InitTerm_Validator::validate_preinit_string", for_validate)
+                        .file,
+                    L"$Workfile: std_init_term_cfg $ $Revision: #1 $");
+            else
+                EXPECT_NO_THROW(validate());
+            expect_thrown<MVNK_Error>(
+                [&] { (m_validator.*datum.set_to_default)(); }, 1103,
+                std::wstring(L"PX_Std_InitTerm_Validator::set_") + datum.name + L"_to_default", for_default);
         }
     };
     m_device->set_plotter_capabilities(nullptr);

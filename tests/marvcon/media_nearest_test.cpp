@@ -162,26 +162,6 @@ TEST_F(Media_Nearest, SizePassesOverWhatIsNotThere) {
     expect_taken(L"A4plus");
 }
 
-TEST_F(Media_Nearest, StopsAtTheFirstIdenticalOne) {
-    struct Trap : PX_Std_Media_Size {
-        PX_Media_Group::Enum get_media_group() const override { throw MVNK_Error(1, L"Trap"); }
-    };
-    struct Bin_Trap : PX_Std_Media_Destination {
-        PX_Smart_Pointer<PX_Media_Collating> get_collating(const wchar_t*) const override {
-            throw MVNK_Error(1, L"Trap");
-        }
-    };
-    auto* const trap = named<Trap>(L"trap");
-    trap->set_media_description(L"a4");
-    m_device.sizes()->append(trap);
-    m_device.names()->append(named<Name>(L"trap"));
-    m_device.destinations()->append(named<Bin_Trap>(L"trap"));
-    EXPECT_TRUE(m_validator.set_size_to_nearest());
-    m_device.choose_directly();
-    EXPECT_TRUE(m_validator.set_size_to_nearest());
-    EXPECT_NO_THROW(m_validator.set_destination_to_nearest());
-}
-
 TEST_F(Media_Nearest, SizeReportsWhatItCannotStartFrom) {
     const auto expect_missing = [&](const std::wstring& detail) {
         expect_thrown<MVNK_Memory_Exception>([&] { m_validator.set_size_to_nearest(); }, 1101,

@@ -15,13 +15,10 @@ using support::withdraw;
 using Ability = PX_Media_Ability_Flags;
 using Cfg = PX_Media_Config_Flags;
 using Strategy = PX_Validation_Strategy;
-using V = PX_Media_Validator;
 
 // What the numbers have in common.
 struct Datum {
-    const wchar_t* name;
-    void (V::*validate)(Strategy::Enum);
-    void (V::*set_to_default)();
+    MEDIA_DATUM_FIELDS;
     Ability::Enum ability;
     Cfg::Enum flag;
     long bit;
@@ -131,9 +128,7 @@ TEST_F(Media_Plain_Data, RefusesImpossibleDefaults) {
 
 // What the margins and the actual printable bounds have in common.
 struct Bounds {
-    const wchar_t* name;
-    void (V::*validate)(Strategy::Enum);
-    void (V::*set_to_default)();
+    MEDIA_DATUM_FIELDS;
     Cfg::Enum flag;
     long bit;
     PX_Smart_Pointer<PX_Float_Rectangle> (PX_Media_Configuration::*get)() const;

@@ -16,13 +16,10 @@ using support::withdraw;
 using Ability = PX_Media_Ability_Flags;
 using Cfg = PX_Media_Config_Flags;
 using Strategy = PX_Validation_Strategy;
-using V = PX_Media_Validator;
 
 // What the data of the selection chain have in common, and what the device's configuration is repaired to.
 struct Datum {
-    const wchar_t* name;
-    void (V::*validate)(Strategy::Enum);
-    void (V::*set_to_default)();
+    MEDIA_DATUM_FIELDS;
     Cfg::Enum flag;
     long bits;
     Ability::Enum default_test;
@@ -239,6 +236,16 @@ TEST(Media_Validator, NeedsTheSnapshotOnlyForANameThatIsThere) {
     for (const Datum& datum : {entry, type, output, size, source})
         (validator.*datum.validate)(Strategy::Use_Default);
     EXPECT_EQ(device.changes(), 0x3E087);
+
+    // Neither what is chosen nor the default can be used: nothing is raised or marked.
+    for (const auto& each : *device.types())
+        withdraw(each);
+    device.validator()->set_media_cfg_changes(0);
+    device.cfg->set_validated(false);
+    const auto thrown = support::thrown_by([&] { validator.validate_type(Strategy::Use_Default); });
+    ASSERT_TRUE(thrown && thrown->frames.size() == 1);
+    EXPECT_EQ(thrown->frames[0], L"PX_Std_Media_Validator::validate_type");
+    EXPECT_FALSE(device.changes() || device.cfg->get_one_validated(type.flag));
 }
 
 struct Failure {
@@ -305,34 +312,7 @@ TEST(Media_Validator, ReportsWhatCannotBeUsed) {
     }
 }
 
-TEST(Media_Validator, AFailedRepairRaisesAndMarksNothing) {
-    const Media_Device device;
-    PX_Std_Media_Validator validator(device.get());
-    device.cfg->set_validated(false);
-    // Tests the datum when neither what is chosen nor any other of the list can be used.
-    const auto expect_fails = [&](const Datum& datum, const auto& list) {
-        for (const auto& each : *list)
-            withdraw(each);
-        for (const auto strategy : {Strategy::Use_Default, Strategy::Use_Nearest}) {
-            SCOPED_TRACE(testing::PrintToString(datum.name) + std::to_string(strategy));
-            const std::optional<support::Thrown> thrown =
-                support::thrown_by([&] { (validator.*datum.validate)(strategy); });
-            ASSERT_TRUE(thrown && !thrown->frames.empty());
-            EXPECT_EQ(thrown->frames.back(), std::wstring(L"PX_Std_Media_Validator::validate_") + datum.name);
-            EXPECT_FALSE(device.cfg->get_one_validated(datum.flag));
-            EXPECT_EQ(device.changes(), 0);
-        }
-    };
-    expect_fails(type, device.types());
-    expect_fails(size, device.names());
-    expect_fails(output, device.destinations());
-    expect_fails(entry, device.entries());
-    expect_fails(source, device.sources());
-    device.caps->set_media_selection_methods(4);
-    expect_fails(method, device.types());
-}
-
-TEST(Media_Validator, LaterDataSeeWhatEarlierRepairsWrote) {
+TEST(Media_Validator_In_A_Run, LaterDataSeeWhatEarlierRepairsWrote) {
     const Media_Device device;
     drop(device.sources(), L"tray");
     device.validator()->validate_all(Strategy::Use_Default, PX_Validation_Policy::Validate_Conditional, true);

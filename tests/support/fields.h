@@ -32,10 +32,8 @@ inline std::wstring show(const PX_Float_XY* value) {
 }
 
 inline std::wstring show(const PX_Float_Rectangle* value) {
-    if (!value)
-        return L"(null)";
-    return show(value->x_min) + L" " + show(value->x_max) + L" " + show(value->y_min) + L" " +
-           show(value->y_max);
+    const auto corner = [](float x, float y) { return show(x) + L" " + show(y); };
+    return value ? corner(value->x_min, value->x_max) + L" " + corner(value->y_min, value->y_max) : L"(null)";
 }
 
 template <class Element>
@@ -180,37 +178,24 @@ struct Field {
 template <class Class>
 using Fields = std::vector<Field<Class>>;
 
-// The object that a getter gives a counted pointer to, null for a value.
-template <class Class, class Value>
-const void* held_by([[maybe_unused]] const Class& object, [[maybe_unused]] Value (Class::*get)() const) {
-    if constexpr (requires { (object.*get)().get(); })
-        return (object.*get)().get();
-    else
-        return nullptr;
-}
-
-// Nothing to check where the setter takes a plain value.
-template <class Class, class Get, class Set, class Other>
-void check_setter_of_held([[maybe_unused]] Class& object, [[maybe_unused]] Get get, [[maybe_unused]] Set set,
-                          [[maybe_unused]] const Other& other, [[maybe_unused]] const Setter_Words& words) {
-    if constexpr (requires { check_setter(object, get, set, other, words); })
-        check_setter(object, get, set, other, words);
-}
-
 template <class Class, class Value, class Argument>
 Field<Class> field(const wchar_t* setter, Value (Class::*get)() const, const wchar_t* start,
                    void (Class::*set)(Argument), std::type_identity_t<Argument> other,
                    const wchar_t* null_detail = nullptr) {
-    return {setter,
-            null_detail,
-            start,
-            show(other),
-            [get](const Class& object) { return show((object.*get)()); },
-            [get](const Class& object) { return held_by(object, get); },
-            [set, other](Class& object) { (object.*set)(other); },
-            [get, set, other](Class& object, const Setter_Words& words) {
-                check_setter_of_held(object, get, set, other, words);
-            }};
+    Field<Class> row = {setter, null_detail, start, show(other), {}, {}, {}, {}};
+    row.read = [get](const Class& object) { return show((object.*get)()); };
+    row.write = [set, other](Class& object) { (object.*set)(other); };
+    row.held = [](const Class&) { return nullptr; };
+    if constexpr (requires(Value value) { value.get(); })
+        row.held = [get](const Class& object) { return (object.*get)().get(); };
+    row.check_setter = [](Class&, const Setter_Words&) {};  // a plain value needs no care
+    if constexpr (requires(Class & object, const Setter_Words& words) {
+                      check_setter(object, get, set, other, words);
+                  })
+        row.check_setter = [get, set, other](Class& object, const Setter_Words& words) {
+            check_setter(object, get, set, other, words);
+        };
+    return row;
 }
 
 // A row by the name of the datum: its start, another value, and what the setter says of null.

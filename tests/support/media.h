@@ -108,7 +108,11 @@ void drop(const PX_Smart_Pointer<PX_Named_Object_List<Entry>>& list, const wchar
     list->remove(list->find(name).get());
 }
 
-// The name of a datum, its test and its default.
+// The name of a datum, its test and its default: the fields of a row, and their values.
+#define MEDIA_DATUM_FIELDS                                              \
+    const wchar_t* name;                                                \
+    void (PX_Media_Validator::*validate)(PX_Validation_Strategy::Enum); \
+    void (PX_Media_Validator::*set_to_default)()
 #define MEDIA_DATUM(name) \
     L"" #name, &PX_Media_Validator::validate_##name, &PX_Media_Validator::set_##name##_to_default
 

@@ -32,6 +32,12 @@ Character first_character(std::string_view bytes) {
                                                                     : Character{number, tails + 1};
 }
 
+// The two above the control characters separate lines and paragraphs.
+bool is_blank_or_control(char32_t character) {
+    return character <= ' ' || (character >= 0x7F && character < 0xA0) || character == 0x2028 ||
+           character == 0x2029;
+}
+
 }  // namespace
 
 std::wstring from_utf8(std::string_view bytes) {
@@ -60,15 +66,17 @@ std::string to_utf8(std::wstring_view wide) {
 std::string on_one_line(std::string_view bytes) {
     std::string line;
     bool blank = false;
-    for (const char c : bytes) {
-        if (static_cast<unsigned char>(c) <= ' ' || c == 0x7F) {
+    while (!bytes.empty()) {
+        const Character next = first_character(bytes);
+        if (is_blank_or_control(next.number)) {
             blank = !line.empty();
-            continue;
+        } else {
+            if (blank)
+                line += ' ';
+            blank = false;
+            line += bytes.substr(0, next.length);
         }
-        if (blank)
-            line += ' ';
-        blank = false;
-        line += c;
+        bytes.remove_prefix(next.length);
     }
     return line;
 }

@@ -2,12 +2,18 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
+#include <filesystem>
 #include <iterator>
+#include <stdexcept>
 #include <string>
+#include <system_error>
+#include <utility>
 #include <vector>
 
 namespace plot_host {
 namespace {
+
+namespace fs = std::filesystem;
 
 template <class Value>
 struct Word {
@@ -48,6 +54,35 @@ void add_choice_of(CLI::App& app, const char* option, const Word<Value> (&words)
         ->default_str(word_in(words, value));
 }
 
+bool is_one_file(const fs::path& one, const fs::path& other) {
+    std::error_code failure;
+    if (fs::is_other(one, failure))
+        return false;  // as /dev/null
+    return fs::equivalent(one, other, failure) ||
+           fs::weakly_canonical(fs::absolute(one)) == fs::weakly_canonical(fs::absolute(other));
+}
+
+// What is written to would be lost to the other. Only a choice may be saved where it was opened.
+void refuse_one_file_for_two(const Arguments& arguments) {
+    const std::pair<const char*, const fs::path&> files[] = {{"--device", arguments.device},
+                                                             {"--choice", arguments.choice},
+                                                             {"--save", arguments.save},
+                                                             {"--picture", arguments.picture},
+                                                             {"--log", arguments.log}};
+    for (const auto& [option, file] : files) {
+        for (const auto& [former, former_file] : files) {
+            if (&former_file == &file)
+                break;
+            const bool reads_both = &file == &arguments.choice;
+            const bool saves_in_place = &file == &arguments.save && &former_file == &arguments.choice;
+            if (!file.empty() && !former_file.empty() && !reads_both && !saves_in_place &&
+                is_one_file(former_file, file))
+                throw std::runtime_error(std::string(former) + " and " + option + " name one file, '" +
+                                         file.string() + "'");
+        }
+    }
+}
+
 }  // namespace
 
 std::optional<Arguments> parse_arguments(int count, const char* const* words, std::ostream& out) {
@@ -75,6 +110,7 @@ std::optional<Arguments> parse_arguments(int count, const char* const* words, st
         out << app.help();
         return std::nullopt;
     }
+    refuse_one_file_for_two(arguments);
     return arguments;
 }
 

@@ -44,6 +44,14 @@ PX_Smart_Pointer<PX_Error_Handler> make_handler(const std::filesystem::path& log
     return handler;
 }
 
+// A driver that opens a pipe would wait for somebody to write.
+void refuse_what_is_no_file(const std::filesystem::path& device) {
+    std::error_code ignored;
+    const auto status = std::filesystem::status(device, ignored);
+    if (std::filesystem::is_other(status))
+        throw std::runtime_error("the device '" + device.string() + "' is not a regular file");
+}
+
 void print_heading(std::ostream& out, const PX_Plotter_Definition& device,
                    const std::optional<Saved_Device>& made_on, const Arguments& arguments) {
     const auto meta = device.get_meta_capabilities();
@@ -92,6 +100,7 @@ Exit_Code run(int count, const char* const* words, const Open_Device& open_devic
         const std::optional<Arguments> arguments = parse_arguments(count, words, out);
         if (arguments) {
             handler = make_handler(arguments->log, err);
+            refuse_what_is_no_file(arguments->device);
             reconcile(*arguments, *open_device(arguments->device, handler), out);
         }
         out.flush();

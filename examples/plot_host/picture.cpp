@@ -35,29 +35,33 @@ constexpr std::array<Look, 3> looks = {{
 }};
 
 std::string escaped(const std::string& text) {
-    std::string safe;
-    for (const char c : text::on_one_line(text)) {
+    std::wstring safe;
+    for (const wchar_t c : text::from_utf8(text::on_one_line(text))) {
         switch (c) {
-            case '&':
-                safe += "&amp;";
+            case L'&':
+                safe += L"&amp;";
                 break;
-            case '<':
-                safe += "&lt;";
+            case L'<':
+                safe += L"&lt;";
                 break;
-            case '>':
-                safe += "&gt;";
+            case L'>':
+                safe += L"&gt;";
                 break;
-            case '"':
-                safe += "&quot;";
+            case L'"':
+                safe += L"&quot;";
                 break;
-            case '\'':
-                safe += "&#39;";
+            case L'\'':
+                safe += L"&#39;";
+                break;
+            case 0xFFFE:
+            case 0xFFFF:
+                safe += L'\uFFFD';  // XML does not have these two
                 break;
             default:
                 safe += c;
         }
     }
-    return safe;
+    return text::to_utf8(safe);
 }
 
 // Cut where it would run into the other panel, between characters and not within one.

@@ -2,8 +2,10 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <cmath>
 #include <fstream>
 #include <optional>
+#include <set>
 #include <stdexcept>
 #include <system_error>
 #include <vector>
@@ -67,7 +69,7 @@ constexpr Domain domains[] = {
 Saved_Device read_device(const Field& field) {
     Saved_Device device;
     for (const auto& [key, member] : field.members({"maker", "model"}))
-        (key == "maker" ? device.maker : device.model) = member.text();
+        (key == "maker" ? device.maker : device.model) = member.name();
     if (device.model.empty())
         field.reject("names no model");
     return device;
@@ -100,6 +102,49 @@ std::string last_system_error() {
     return std::generic_category().message(errno);
 }
 
+// Of a key that stands twice in its object, the first would be lost.
+class Key_Guard {
+public:
+    bool operator()(int /*depth*/, json::parse_event_t event, const json& parsed) {
+        if (event == json::parse_event_t::object_start)
+            m_objects.emplace_back();
+        else if (event == json::parse_event_t::object_end)
+            m_objects.pop_back();
+        else if (event == json::parse_event_t::key)
+            take(parsed.get<std::string>());
+        return true;
+    }
+
+private:
+    struct Object {
+        std::set<std::string> keys;
+        std::string last;
+    };
+
+    void take(const std::string& key) {
+        Object& object = m_objects.back();
+        object.last = key;
+        if (object.keys.insert(key).second)
+            return;
+        std::string name;
+        for (const Object& outer : m_objects)
+            name += (name.empty() ? "" : ".") + outer.last;
+        throw std::runtime_error(", field '" + name + "', is given twice");
+    }
+
+    std::vector<Object> m_objects;
+};
+
+// JSON has no word for them.
+void refuse_non_finite(const json& value, const std::string& name) {
+    if (value.is_number_float() && !std::isfinite(value.get<double>()))
+        throw std::runtime_error("field '" + name + "' is not a finite number");
+    if (!value.is_object())
+        return;
+    for (const auto& [key, member] : value.items())
+        refuse_non_finite(member, name.empty() ? key : name + "." + key);
+}
+
 json parse_file(const std::filesystem::path& path) {
     std::error_code ignored;
     if (std::filesystem::is_directory(path, ignored))
@@ -110,7 +155,7 @@ json parse_file(const std::filesystem::path& path) {
     if (file.peek() == std::ifstream::traits_type::eof())
         throw std::runtime_error(" is empty");
     try {
-        return json::parse(file);
+        return json::parse(file, Key_Guard());
     } catch (const json::exception& failure) {
         throw std::runtime_error(" is broken: " + reason_of(failure));
     }
@@ -132,11 +177,15 @@ void save_choice(const std::filesystem::path& path, const Saved_Device& device,
     document["device"] = {{"maker", device.maker}, {"model", device.model}};
     for (const Domain& domain : domains)
         document[domain.key] = domain.write(choice);
-    std::ofstream file(path, std::ios::binary);
-    file << document.dump(4, ' ', true) << std::endl;
-    if (!file)
-        throw std::runtime_error("the choice cannot be saved to '" + path.string() +
-                                 "': " + last_system_error());
+    try {
+        refuse_non_finite(document, "");
+        std::ofstream file(path, std::ios::binary);
+        file << document.dump(4, ' ', true) << std::endl;
+        if (!file)
+            throw std::runtime_error(last_system_error());
+    } catch (const std::runtime_error& failure) {
+        throw std::runtime_error("the choice cannot be saved to '" + path.string() + "': " + failure.what());
+    }
 }
 
 }  // namespace plot_host

@@ -32,7 +32,7 @@ public:
     // The members that are there. One that is not known is a slip that would go unnoticed.
     std::vector<std::pair<std::string, Field>> members(const std::vector<std::string>& known) const {
         if (!m_value.is_object())
-            reject(std::string("must be an object, not ") + m_value.type_name());
+            reject("must be an object, not " + found());
         std::vector<std::pair<std::string, Field>> found;
         for (const auto& [key, value] : m_value.items()) {
             found.emplace_back(key, Field(value, m_name.empty() ? key : m_name + "." + key));
@@ -44,13 +44,21 @@ public:
 
     std::string text() const {
         if (!m_value.is_string())
-            reject(std::string("must be a text, not ") + m_value.type_name());
+            reject("must be a text, not " + found());
         return m_value.get<std::string>();
+    }
+
+    // A text that the toolkit takes, to which U+0000 is the end.
+    std::string name() const {
+        std::string characters = text();
+        if (characters.find('\0') != std::string::npos)
+            reject("has the character U+0000 in it");
+        return characters;
     }
 
     bool boolean() const {
         if (!m_value.is_boolean())
-            reject(std::string("must be true or false, not ") + m_value.type_name());
+            reject("must be true or false, not " + found());
         return m_value.get<bool>();
     }
 
@@ -58,7 +66,7 @@ public:
     template <std::integral Number>
     Number whole_number() const {
         if (!m_value.is_number_integer())
-            reject(std::string("must be a whole number, not ") + m_value.type_name());
+            reject("must be a whole number, not " + found());
         const auto number = m_value.get<std::int64_t>();
         if (!std::in_range<Number>(number) ||
             (m_value.is_number_unsigned() && m_value.get<std::uint64_t>() > INT64_MAX))
@@ -69,7 +77,7 @@ public:
     template <std::floating_point Number>
     Number number() const {
         if (!m_value.is_number())
-            reject(std::string("must be a number, not ") + m_value.type_name());
+            reject("must be a number, not " + found());
         const auto number = m_value.get<double>();
         if (std::fabs(number) > double{std::numeric_limits<Number>::max()})
             reject("is out of range");
@@ -92,6 +100,11 @@ public:
     }
 
 private:
+    // A value that is short, and the kind of any other.
+    std::string found() const {
+        return m_value.is_structured() || m_value.is_string() ? m_value.type_name() : m_value.dump();
+    }
+
     const json& m_value;
     std::string m_name;
 };

@@ -74,7 +74,7 @@ template <auto get, auto set, class Owner>
 void read_value(const Field& field, Owner& owner) {
     using Value = decltype((owner.*get)());
     if constexpr (std::is_same_v<Value, const wchar_t*>) {
-        (owner.*set)(text::from_utf8(field.text()).c_str());
+        (owner.*set)(text::from_utf8(field.name()).c_str());
     } else if constexpr (std::is_same_v<Value, PX_Smart_Pointer<PX_Float_XY>>) {
         const PX_Float_XY value = xy_of(field);
         (owner.*set)(&value);
@@ -147,7 +147,7 @@ using C = PX_Media_Configuration;
 template <class Object, auto set>
 void read_name(const Field& field, C& media) {
     Object named;
-    named.set_canonical_name(text::from_utf8(field.text()).c_str());
+    named.set_canonical_name(text::from_utf8(field.name()).c_str());
     if constexpr (std::is_same_v<Object, PX_Std_Media_Size>) {
         const PX_Std_Media_Description description;
         (media.*set)(&named, &description);

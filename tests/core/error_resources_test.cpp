@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <map>
 #include <optional>
 #include <string>
@@ -43,8 +44,10 @@ protected:
     PX_Scripted_Platform m_machine;
 };
 
-TEST_F(Error_Resources, TakesTheModuleOnTheSearchPathAndKeepsIt) {
+TEST_F(Error_Resources, LooksAgainAfterAFailureAndKeepsTheModuleOnTheSearchPath) {
+    EXPECT_EQ(GetMVNErrResHandle(), 0U);
     m_machine.install_module(L"mvnres11.dll");
+    m_machine.forget_calls();
     const auto module = GetMVNErrResHandle();
     EXPECT_NE(module, 0U);
     EXPECT_EQ(GetMVNErrResHandle(), module);
@@ -80,35 +83,23 @@ TEST_F(Error_Resources, AsksTheModuleBesideTheProgramForTheLanguage) {
 }
 
 TEST_F(Error_Resources, FallsBackOnEnglish) {
-    struct Case {
-        const char* what;
-        void (*set_up)(PX_Scripted_Platform&);
-    };
     m_machine.install_module(L"en-US\\mvnres11.dll");
-    for (const Case& row :
-         {Case{"no language module", [](PX_Scripted_Platform&) {}},
-          Case{"one without the function",
-               [](PX_Scripted_Platform& machine) { machine.install_module(L"C:\\Program\\userdata.dll"); }},
-          Case{"one that tells none",
-               [](PX_Scripted_Platform& machine) {
-                   machine.export_procedure(L"C:\\Program\\userdata.dll", "vrcuGetProductUILanguage",
-                                            no_language);
-               }},
-          Case{"a program path too long",
-               [](PX_Scripted_Platform& machine) { machine.place_program_at(std::wstring(300, L'p')); }},
-          Case{"no program path", [](PX_Scripted_Platform& machine) { machine.hide_program_path(); }}}) {
-        SCOPED_TRACE(row.what);
-        row.set_up(m_machine);
+    const wchar_t* const beside = L"C:\\Program\\userdata.dll";
+    const std::pair<const char*, std::function<void()>> rows[] = {
+        {"no language module", [] {}},
+        {"one without the function", [&] { m_machine.install_module(beside); }},
+        {"one that tells none",
+         [&] { m_machine.export_procedure(beside, "vrcuGetProductUILanguage", no_language); }},
+        {"a program path too long", [&] { m_machine.place_program_at(std::wstring(300, L'p')); }},
+        {"no program path", [&] { m_machine.hide_program_path(); }},
+    };
+    for (const auto& [what, set_up] : rows) {
+        SCOPED_TRACE(what);
+        set_up();
         EXPECT_NE(GetMVNErrResHandle(), 0U);
         EXPECT_EQ(m_machine.loaded_modules(), std::vector<std::wstring>{L"en-US\\mvnres11.dll"});
         PX_Module_Exit();
     }
-}
-
-TEST_F(Error_Resources, LooksAgainAfterAFailure) {
-    EXPECT_EQ(GetMVNErrResHandle(), 0U);
-    m_machine.install_module(L"mvnres11.dll");
-    EXPECT_NE(GetMVNErrResHandle(), 0U);
 }
 
 struct Reader : support::Test_Handler {

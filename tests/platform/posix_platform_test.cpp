@@ -14,6 +14,7 @@
 #include <stdexcept>
 #include <string>
 #include <thread>
+#include <tuple>
 #include <utility>
 
 #include "toolkit/platform/floating_point_guard.h"
@@ -209,31 +210,26 @@ TEST(PosixFiles, OpensByWideNameOrTellsWhyNot) {
     EXPECT_EQ(platform._wfopen_s(nullptr, L"", L"r"), EINVAL);
 }
 
-TEST_F(PosixFloatingPoint, RoundsAsTheWordSays) {
+TEST_F(PosixFloatingPoint, RoundsAndMasksAsTheWordSays) {
     const double third = one / three;
     const double above = std::nextafter(third, 1.0);
-    const struct {
-        unsigned int word;
-        double quotient;
-        double negative;
-    } rows[] = {{0, third, -third}, {0x100, third, -above}, {0x200, above, -third}, {0x300, third, -third}};
-    for (const auto& row : rows) {
-        EXPECT_EQ(put(row.word, 0x300) & 0x300, row.word);
-        EXPECT_EQ(one / three, row.quotient) << row.word;
-        EXPECT_EQ(-one / three, row.negative) << row.word;
+    for (const auto& [word, quotient, negative] : {std::tuple{0U, third, -third},
+                                                   {0x100U, third, -above},
+                                                   {0x200U, above, -third},
+                                                   {0x300U, third, -third}}) {
+        EXPECT_EQ(put(word, 0x300) & 0x300, word);
+        EXPECT_EQ(one / three, quotient) << word;
+        EXPECT_EQ(-one / three, negative) << word;
     }
-}
-
-TEST_F(PosixFloatingPoint, MasksExceptionsOneByOne) {
-    const struct {
-        unsigned int bit;
-        int native;
-    } rows[] = {{1, FE_INEXACT}, {2, FE_UNDERFLOW}, {4, FE_OVERFLOW}, {8, FE_DIVBYZERO}, {16, FE_INVALID}};
     put(0xFFFFFFFF, 0x0008001F);
-    for (const auto& row : rows) {
-        EXPECT_EQ(put(0, row.bit) & 0x0008001F, 0x0008001FU & ~row.bit);
-        EXPECT_EQ(fegetexcept(), row.native);
-        put(row.bit, row.bit);
+    for (const auto& [bit, native] : {std::pair{1U, FE_INEXACT},
+                                      {2U, FE_UNDERFLOW},
+                                      {4U, FE_OVERFLOW},
+                                      {8U, FE_DIVBYZERO},
+                                      {16U, FE_INVALID}}) {
+        EXPECT_EQ(put(0, bit) & 0x0008001F, 0x0008001FU & ~bit);
+        EXPECT_EQ(fegetexcept(), native);
+        put(bit, bit);
     }
     EXPECT_EQ(put(0xFFFFFFFF, ~0x0308031FU) & ~0x0308031FU, 0U) << "other bits do not exist";
     EXPECT_EQ(fegetexcept(), 0);

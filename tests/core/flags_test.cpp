@@ -1,12 +1,11 @@
+#include "toolkit/core/flags.h"
+
 #include <gtest/gtest.h>
 
-#include <functional>
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "tests/support/expect_exception.h"
-#include "toolkit/core/flag_accessors.h"
 
 namespace {
 
@@ -16,130 +15,71 @@ struct Probe_Flags {
     static constexpr PX_Flag_Range range{17, L"Probe_Flags::Enum", L"toolkit/marvcon/std_probe_cfg"};
 };
 using Flag = Probe_Flags::Enum;
+using Abilities = PX_Flag_Set<PX_Abilities, Probe_Flags>;
+using Owners = PX_Flag_Set<PX_UI_Ownership, Probe_Flags>;
+using Booleans = PX_Flag_Set<PX_Boolean_Flags, Probe_Flags>;
 
-class Probe_Contract {
-public:
-    virtual ~Probe_Contract() = default;
-    virtual const wchar_t* get_abilities() const = 0;
-    virtual PX_Ability_Value::Enum get_one_ability(Flag flag) const = 0;
-    virtual void set_abilities(PX_Ability_Value::Enum value) = 0;
-    virtual void set_abilities(const wchar_t* text) = 0;
-    virtual void set_one_ability(PX_Ability_Value::Enum value, Flag flag) = 0;
-    virtual const wchar_t* get_caps_state() const = 0;
-    virtual bool get_one_caps_state(Flag flag) const = 0;
-    virtual void set_caps_state(bool on) = 0;
-    virtual void set_caps_state(const wchar_t* text) = 0;
-    virtual void set_one_caps_state(bool on, Flag flag) = 0;
-    virtual const wchar_t* get_ui_owner() const = 0;
-    virtual PX_UI_Owner::Enum get_one_ui_owner(Flag flag) const = 0;
-    virtual void set_ui_owner(PX_UI_Owner::Enum owner) = 0;
-    virtual void set_ui_owner(const wchar_t* text) = 0;
-    virtual void set_one_ui_owner(PX_UI_Owner::Enum owner, Flag flag) = 0;
-    virtual bool get_one_validated(Flag flag) const = 0;
-    virtual bool get_validated() const = 0;
-    virtual void set_one_validated(bool on, Flag flag) = 0;
-    virtual void set_validated(bool on) = 0;
-    virtual bool get_one_default(Flag flag) const = 0;
-    virtual bool get_default() const = 0;
-    virtual void set_one_default(bool on, Flag flag) = 0;
-    virtual void set_default(bool on) = 0;
-};
-
-using Ability_Set = PX_Flag_Set<PX_Abilities, Probe_Flags>;
-using Owner_Set = PX_Flag_Set<PX_UI_Ownership, Probe_Flags>;
-using Boolean_Set = PX_Flag_Set<PX_Boolean_Flags, Probe_Flags>;
-class Probe
-    : public PX_Configuration_Accessors<
-          PX_Owner_Accessors<
-              PX_State_Accessors<PX_Ability_Accessors<Probe_Contract, Ability_Set>, Boolean_Set>, Owner_Set>,
-          Boolean_Set, Boolean_Set> {};
-
-TEST(Flags, EveryAccessorChecksItsRange) {
-    Probe probe;
-    const std::vector<std::pair<const char*, std::function<void(Flag)>>> accessors = {
-        {"get_one_ability", [&](Flag f) { probe.get_one_ability(f); }},
-        {"set_one_ability", [&](Flag f) { probe.set_one_ability(PX_Ability_Value::Ability_Fixed, f); }},
-        {"get_one_caps_state", [&](Flag f) { probe.get_one_caps_state(f); }},
-        {"set_one_caps_state", [&](Flag f) { probe.set_one_caps_state(true, f); }},
-        {"get_one_ui_owner", [&](Flag f) { probe.get_one_ui_owner(f); }},
-        {"set_one_ui_owner", [&](Flag f) { probe.set_one_ui_owner(PX_UI_Owner::UI_Owner_1, f); }},
-        {"get_one_validated", [&](Flag f) { probe.get_one_validated(f); }},
-        {"set_one_validated", [&](Flag f) { probe.set_one_validated(true, f); }},
-        {"get_one_default", [&](Flag f) { probe.get_one_default(f); }},
-        {"set_one_default", [&](Flag f) { probe.set_one_default(true, f); }},
-    };
-    for (const auto& accessor : accessors) {
-        const auto& access = accessor.second;
-        SCOPED_TRACE(accessor.first);
-        for (const int outside : {-2, 17}) {
-            const auto thrown = support::expect_thrown<PX_Severe_Error>(
-                [&] { access(static_cast<Flag>(outside)); }, 1104, L"toolkit/marvcon/std_probe_cfg",
-                L"Probe_Flags::Enum");
-            EXPECT_EQ(thrown.file, L"(null)");
-        }
-        access(Flag::None);
-        EXPECT_STREQ(probe.get_abilities(), L"00000000000000000") << "no flag is written";
-        EXPECT_FALSE(probe.get_one_default(Flag::None) || probe.get_one_caps_state(Flag::None));
+TEST(Flags, AreCheckedAgainstTheirRange) {
+    Abilities abilities;
+    Booleans booleans;
+    for (const int outside : {-2, 17}) {
+        const auto flag = static_cast<Flag>(outside);
+        support::expect_thrown<PX_Severe_Error>([&] { abilities.get_checked(flag); }, 1104,
+                                                L"toolkit/marvcon/std_probe_cfg", L"Probe_Flags::Enum");
+        EXPECT_THROW(booleans.set_checked(true, flag), PX_Severe_Error);
     }
-    EXPECT_EQ(probe.get_one_ability(Flag::None), 0);
-    EXPECT_EQ(probe.get_one_ui_owner(Flag::None), 0);
+    abilities.set_checked(PX_Ability_Value::Ability_Fixed, Flag::None);
+    booleans.set_checked(true, Flag::None);
+    EXPECT_EQ(abilities.get_text(), std::wstring(17, L'0')) << "no flag is written";
+    EXPECT_STREQ(booleans.get_text(), L"00000");
+    EXPECT_EQ(abilities.get_checked(Flag::None), 0);
+    EXPECT_FALSE(booleans.get_checked(Flag::None));
 }
 
 TEST(Flags, TheTextIsTheState) {
-    Probe probe;
-    probe.set_abilities(L"12");
-    EXPECT_STREQ(probe.get_abilities(), L"12");
-    EXPECT_EQ(probe.get_one_ability(static_cast<Flag>(1)), 2);
-    EXPECT_EQ(probe.get_one_ability(static_cast<Flag>(2)), 0) << "in range, outside the text";
-    probe.set_one_ability(PX_Ability_Value::Ability_Required, Flag::Last);
-    EXPECT_STREQ(probe.get_abilities(), L"12");
-    probe.set_abilities(probe.get_abilities());
-    EXPECT_STREQ(probe.get_abilities(), L"12") << "its own text";
-    probe.set_abilities(PX_Ability_Value::Ability_Conditional);
-    EXPECT_STREQ(probe.get_abilities(), L"33") << "the length stays";
+    Abilities abilities;
+    abilities.set_text(L"12");
+    EXPECT_EQ(abilities.get_checked(static_cast<Flag>(1)), 2);
+    EXPECT_EQ(abilities.get_checked(static_cast<Flag>(2)), 0) << "in range, outside the text";
+    abilities.set_checked(PX_Ability_Value::Ability_Required, Flag::Last);
+    abilities.set_text(abilities.get_text());
+    EXPECT_STREQ(abilities.get_text(), L"12");
+    abilities.set_all(PX_Ability_Value::Ability_Conditional);
+    EXPECT_STREQ(abilities.get_text(), L"33") << "the length stays";
     for (const wchar_t* const nothing : {static_cast<const wchar_t*>(nullptr), L""}) {
-        probe.set_abilities(nothing);
-        EXPECT_STREQ(probe.get_abilities(), L"");
-        EXPECT_EQ(probe.get_one_ability(Flag::First), 0);
+        abilities.set_text(nothing);
+        EXPECT_STREQ(abilities.get_text(), L"");
+        EXPECT_EQ(abilities.get_checked(Flag::First), 0);
     }
 }
 
 TEST(Flags, ADigitOutsideItsEnumReadsAsUndefined) {
-    Probe probe;
-    probe.set_abilities(L"/056");
-    probe.set_ui_owner(L"/034");
-    const int abilities[] = {-1, 0, 5, -1};
-    const int owners[] = {-1, 0, 3, -1};
+    Abilities abilities;
+    Owners owners;
+    abilities.set_text(L"/056");
+    owners.set_text(L"/034");
     for (int n = 0; n < 4; ++n) {
-        EXPECT_EQ(probe.get_one_ability(static_cast<Flag>(n)), abilities[n]) << n;
-        EXPECT_EQ(probe.get_one_ui_owner(static_cast<Flag>(n)), owners[n]) << n;
+        EXPECT_EQ(abilities.get_one(n), (std::vector{-1, 0, 5, -1}[static_cast<std::size_t>(n)])) << n;
+        EXPECT_EQ(owners.get_one(n), (std::vector{-1, 0, 3, -1}[static_cast<std::size_t>(n)])) << n;
     }
-    probe.set_one_ability(PX_Ability_Value::Ability_Undefined, static_cast<Flag>(1));
-    EXPECT_STREQ(probe.get_abilities(), L"//56");
+    abilities.set_one(PX_Ability_Value::Ability_Undefined, 1);
+    EXPECT_STREQ(abilities.get_text(), L"//56");
 }
 
 TEST(Flags, FourBooleansShareADigit) {
-    Probe probe;
-    EXPECT_STREQ(probe.get_caps_state(), L"00000");
-    probe.set_one_caps_state(true, static_cast<Flag>(6));
-    EXPECT_STREQ(probe.get_caps_state(), L"04000");
-    EXPECT_TRUE(probe.get_one_caps_state(static_cast<Flag>(6)));
-    EXPECT_FALSE(probe.get_one_caps_state(static_cast<Flag>(2)));
-    probe.set_caps_state(true);
-    EXPECT_STREQ(probe.get_caps_state(), L"?????") << "the spare bits too";
-    probe.set_one_caps_state(false, Flag::Last);
-    EXPECT_EQ(probe.get_caps_state(), std::wstring(4, L'?') + L'>');
-}
-
-TEST(Flags, AllAreSetWithoutTheSpareBits) {
-    Probe probe;
-    EXPECT_FALSE(probe.get_validated());
+    Booleans booleans;
+    booleans.set_one(true, 6);
+    EXPECT_STREQ(booleans.get_text(), L"04000");
+    EXPECT_TRUE(booleans.get_one(6) && !booleans.get_one(2));
     for (int n = 0; n < 17; ++n) {
-        EXPECT_FALSE(probe.get_validated()) << n;
-        probe.set_one_validated(true, static_cast<Flag>(n));
+        EXPECT_FALSE(static_cast<PX_Boolean_Flags&>(booleans).get_flags(17)) << n;
+        booleans.set_one(true, n);
     }
-    EXPECT_TRUE(probe.get_validated());
-    EXPECT_FALSE(probe.get_default()) << "the two sets are apart";
+    EXPECT_TRUE(static_cast<PX_Boolean_Flags&>(booleans).get_flags(17)) << "without the spare bits";
+    booleans.set_all(true);
+    EXPECT_STREQ(booleans.get_text(), L"?????") << "with the spare bits";
+    booleans.set_one(false, Flag::Last);
+    EXPECT_EQ(booleans.get_text(), std::wstring(4, L'?') + L'>');
 }
 
 class Bare_Flags : public PX_Flags {
@@ -154,7 +94,6 @@ TEST(Flags, ResizeCutsOrFillsOnTheRight) {
     flags.setNumFlags(3);
     EXPECT_STREQ(flags.get_flags(), L"123");
     flags.setNumFlags(6);
-    EXPECT_STREQ(flags.get_flags(), L"123000");
     flags.setNumFlags(-1);
     EXPECT_STREQ(flags.get_flags(), L"123000");
     EXPECT_STREQ(Bare_Flags(-1).get_flags(), L"");
@@ -162,8 +101,6 @@ TEST(Flags, ResizeCutsOrFillsOnTheRight) {
     flags = Bare_Flags(2);
     EXPECT_STREQ(copy.get_flags(), L"123000");
     EXPECT_STREQ(flags.get_flags(), L"00");
-    EXPECT_TRUE(PX_Boolean_Flags(L"").get_flags(0));
-    EXPECT_FALSE(PX_Boolean_Flags(L"").get_flags(1));
 }
 
 }  // namespace

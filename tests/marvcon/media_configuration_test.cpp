@@ -213,41 +213,37 @@ struct Choice {
     const wchar_t* (Configuration::*get)() const;
     const wchar_t* name;
 };
-#define CHOICE(datum, detail, object, cleared, snapshot)                                \
-    Choice {                                                                            \
-        L"set_media_" #datum, detail, cleared, snapshot,                                \
-            [](Configuration& cfg) { cfg.set_media_##datum((object).get()); },          \
-            [](Configuration& cfg) { cfg.set_media_##datum(nullptr); },                 \
-            [](Settings& settings) { settings.set_media_##datum##_settings(nullptr); }, \
-            &Configuration::get_media_##datum, (object)->get_canonical_name()           \
+// clang-format off
+#define CHOICE_OF(datum, object, arguments, nulls, settings, detail, cleared, snapshot)             \
+    Choice {                                                                                        \
+        L"set_media_" #datum, detail, cleared, snapshot,                                            \
+        [](Configuration& cfg) { cfg.set_media_##datum arguments; },                                \
+        [](Configuration& cfg) { cfg.set_media_##datum nulls; },                                    \
+        [](Settings& had) { had.set_media_##settings##_settings(nullptr); },                        \
+        &Configuration::get_media_##datum, object->get_canonical_name()                             \
     }
-
-constexpr const wchar_t* size_snapshot =
-    L"media_bounds 3 4, printable_bounds 0 9 0 19, printable_area 6.5, dimensional 0, media_group 5, "
-    L"landscape_mode_flag 1, form_name form";
-void choose_size(Configuration& cfg) {
-    cfg.set_media_size(size.get(), description.get());
-}
-
+#define CHOICE(datum, object, ...) CHOICE_OF(datum, object, (object.get()), (nullptr), datum, __VA_ARGS__)
+#define SIZE(nulls, settings)                                                                       \
+    CHOICE_OF(size, size, (size.get(), description.get()), nulls, settings, L"newsize", L" v12 d12 v4 d4", \
+              L"media_bounds 3 4, printable_bounds 0 9 0 19, printable_area 6.5, dimensional 0, "   \
+              L"media_group 5, landscape_mode_flag 1, form_name form")
 const std::vector<Choice> choices = {
-    CHOICE(type, L"newtype", type, L" v1 d1", L"drying_time 7, max_resolution 3 4"),
-    CHOICE(source, L"newsource", source, L" v2 d2", L"media_feed 3"),
-    CHOICE(source_entry, L"newentry", entry, L" v3 d3", L"source_width 1.5, source_frame_height 2.5"),
-    {L"set_media_size", L"newsize", L" v12 d12 v4 d4", size_snapshot, choose_size,
-     [](Configuration& cfg) { cfg.set_media_size(nullptr, description.get()); },
-     [](Settings& settings) { settings.set_media_size_settings(nullptr); }, &Configuration::get_media_size,
-     L"size"},
-    {L"set_media_size", L"newsize", L" v12 d12 v4 d4", size_snapshot, choose_size,
-     [](Configuration& cfg) { cfg.set_media_size(size.get(), nullptr); },
-     [](Settings& settings) { settings.set_media_description_settings(nullptr); },
-     &Configuration::get_media_size, L"size"},
-    CHOICE(destination, L"newdest", bin, L" v5 d5", L""),
-    CHOICE(collating, L"newcollate", collating, L" v13 d13 v5", L"collating_type 8"),
-    CHOICE(stapling, L"newstaple", stapling, L" v14 d14 v5",
+    CHOICE(type, type, L"newtype", L" v1 d1", L"drying_time 7, max_resolution 3 4"),
+    CHOICE(source, source, L"newsource", L" v2 d2", L"media_feed 3"),
+    CHOICE(source_entry, entry, L"newentry", L" v3 d3", L"source_width 1.5, source_frame_height 2.5"),
+    SIZE((nullptr, description.get()), size),
+    SIZE((size.get(), nullptr), description),
+    CHOICE(destination, bin, L"newdest", L" v5 d5", L""),
+    CHOICE(collating, collating, L"newcollate", L" v13 d13 v5", L"collating_type 8"),
+    CHOICE(stapling, stapling, L"newstaple", L" v14 d14 v5",
            L"stapling_location 8, stapling_when 8, stapling_orientation 8"),
-    CHOICE(cutting, L"newcut", cutting, L" v15 d15 v5", L"cutting_when 8"),
-    CHOICE(folding, L"newfold", folding, L" v16 d16 v5", L"folding_type 8, folding_when 8"),
+    CHOICE(cutting, cutting, L"newcut", L" v15 d15 v5", L"cutting_when 8"),
+    CHOICE(folding, folding, L"newfold", L" v16 d16 v5", L"folding_type 8, folding_when 8"),
 };
+#undef SIZE
+#undef CHOICE
+#undef CHOICE_OF
+// clang-format on
 
 TEST(Media_Configuration, AChoiceTakesTheNameAndTheSnapshot) {
     for (const Choice& row : choices) {

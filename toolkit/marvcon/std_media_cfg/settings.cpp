@@ -21,85 +21,80 @@ void PX_Std_Media_Settings::set_printable_bounds(const PX_Float_Rectangle* bound
                    L"m_printable_bounds", px_std_media_cfg_source.file_tag);
 }
 
+namespace {
+
+// Copies from a catalogue object, of which null has nothing to copy, in the frame of `function`.
+template <class Object, class Copy>
+void copy_values(const Object* object, const wchar_t* function, Copy copy) {
+    if (object)
+        px_memory_frame(function, [&] { copy(*object); });
+}
+
+}  // namespace
+
 void PX_Std_Media_Settings::set_media_type_settings(const PX_Media_Type* type) {
-    if (!type)
-        return;
-    px_memory_frame(L"PX_Std_Media_Settings::set_media_type_settings", [&] {
-        set_drying_time(type->get_drying_time());
-        set_max_resolution(type->get_max_resolution().get());
+    copy_values(type, L"PX_Std_Media_Settings::set_media_type_settings", [this](const auto& from) {
+        set_drying_time(from.get_drying_time());
+        set_max_resolution(from.get_max_resolution().get());
     });
 }
 
 void PX_Std_Media_Settings::set_media_size_settings(const PX_Media_Size* size) {
-    if (!size)
-        return;
-    px_memory_frame(L"PX_Std_Media_Settings::set_media_size_settings", [&] {
-        set_media_group(size->get_media_group());
-        set_landscape_mode_flag(size->get_landscape_mode_flag());
-        set_form_name(size->get_form_name());
+    copy_values(size, L"PX_Std_Media_Settings::set_media_size_settings", [this](const auto& from) {
+        set_media_group(from.get_media_group());
+        set_landscape_mode_flag(from.get_landscape_mode_flag());
+        set_form_name(from.get_form_name());
     });
 }
 
 void PX_Std_Media_Settings::set_media_description_settings(const PX_Media_Description* description) {
-    if (!description)
-        return;
-    px_memory_frame(L"PX_Std_Media_Settings::set_media_description_settings", [&] {
-        set_media_bounds(description->get_media_bounds().get());
-        set_printable_bounds(description->get_printable_bounds().get());
-        set_printable_area(description->get_printable_area());
-        set_dimensional(description->get_dimensional());
-    });
+    copy_values(description, L"PX_Std_Media_Settings::set_media_description_settings",
+                [this](const auto& from) {
+                    set_media_bounds(from.get_media_bounds().get());
+                    set_printable_bounds(from.get_printable_bounds().get());
+                    set_printable_area(from.get_printable_area());
+                    set_dimensional(from.get_dimensional());
+                });
 }
 
 void PX_Std_Media_Settings::set_media_source_settings(const PX_Media_Source* source) {
-    if (!source)
-        return;
-    px_memory_frame(L"PX_Std_Media_Settings::set_media_source_settings",
-                    [&] { set_media_feed(source->get_media_feed()); });
+    copy_values(source, L"PX_Std_Media_Settings::set_media_source_settings",
+                [this](const auto& from) { set_media_feed(from.get_media_feed()); });
 }
 
 void PX_Std_Media_Settings::set_media_source_entry_settings(const PX_Media_Source_Entry* source_entry) {
-    if (!source_entry)
-        return;
-    px_memory_frame(L"PX_Std_Media_Settings::set_media_source_entry_settings", [&] {
-        set_source_width(source_entry->get_source_width());
-        set_source_frame_height(source_entry->get_source_frame_height());
-    });
+    copy_values(source_entry, L"PX_Std_Media_Settings::set_media_source_entry_settings",
+                [this](const auto& from) {
+                    set_source_width(from.get_source_width());
+                    set_source_frame_height(from.get_source_frame_height());
+                });
 }
 
 void PX_Std_Media_Settings::set_media_destination_settings(const PX_Media_Destination* /*destination*/) {
 }
 
 void PX_Std_Media_Settings::set_media_collating_settings(const PX_Media_Collating* collating) {
-    if (!collating)
-        return;
-    px_memory_frame(L"PX_Std_Media_Settings::set_media_collating_settings",
-                    [&] { set_collating_type(collating->get_collating_type()); });
+    copy_values(collating, L"PX_Std_Media_Settings::set_media_collating_settings",
+                [this](const auto& from) { set_collating_type(from.get_collating_type()); });
 }
 
 void PX_Std_Media_Settings::set_media_stapling_settings(const PX_Media_Stapling* stapling) {
-    if (!stapling)
-        return;
-    px_memory_frame(L"PX_Std_Media_Settings::set_media_stapling_settings", [&] {
-        set_stapling_location(stapling->get_stapling_location());
-        set_stapling_when(stapling->get_stapling_when());
-        set_stapling_orientation(stapling->get_stapling_orientation());
+    copy_values(stapling, L"PX_Std_Media_Settings::set_media_stapling_settings", [this](const auto& from) {
+        set_stapling_location(from.get_stapling_location());
+        set_stapling_when(from.get_stapling_when());
+        set_stapling_orientation(from.get_stapling_orientation());
     });
 }
 
 void PX_Std_Media_Settings::set_media_cutting_settings(const PX_Media_Cutting* cutting) {
-    if (!cutting)
-        return;
-    px_memory_frame(L"PX_Std_Media_Settings::set_media_cutting_settings",
-                    [&] { set_cutting_when(cutting->get_cutting_when()); });
+    copy_values(cutting, L"PX_Std_Media_Settings::set_media_cutting_settings",
+                [this](const auto& from) { set_cutting_when(from.get_cutting_when()); });
 }
 
 void PX_Std_Media_Settings::set_media_folding_settings(const PX_Media_Folding* folding) {
-    if (!folding)
-        return;
-    px_memory_frame(L"PX_Std_Media_Settings::set_media_folding_settings", [&] {
-        set_folding_type(folding->get_folding_type());
-        set_folding_when(folding->get_folding_when());
+    copy_values(folding, L"PX_Std_Media_Settings::set_media_folding_settings", [this](const auto& from) {
+        set_folding_type(from.get_folding_type());
+        set_folding_when(from.get_folding_when());
     });
 }
 

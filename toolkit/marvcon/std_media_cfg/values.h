@@ -57,8 +57,6 @@ struct PX_Duplexing_Mode {
     enum Enum : int {
         Duplexing_None = 0,
         Duplexing_1 = 1,
-        Duplexing_2 = 2,
-        Duplexing_4 = 4,
     };
 };
 

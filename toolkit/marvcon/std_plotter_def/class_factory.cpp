@@ -134,6 +134,15 @@ PX_Named_Object_List<PX_Media_Size>* PX_Std_Plotter_Class_Factory::MK_Create_Med
     return create<PX_Named_Object_List<PX_Media_Size>>();
 }
 
+PX_Caps_Name_List_Object* PX_Std_Plotter_Class_Factory::MK_Create_Media_Size_In_Source() const {
+    return create<PX_Std_Caps_Name_List_Object>();
+}
+
+PX_Named_Object_List<PX_Caps_Name_List_Object>* PX_Std_Plotter_Class_Factory::MK_Create_Media_Size_Name_List()
+    const {
+    return create<PX_Named_Object_List<PX_Caps_Name_List_Object>>();
+}
+
 PX_Media_Source* PX_Std_Plotter_Class_Factory::MK_Create_Media_Source() const {
     return create<PX_Std_Media_Source>();
 }
@@ -162,15 +171,6 @@ PX_Media_Type* PX_Std_Plotter_Class_Factory::MK_Create_Media_Type() const {
 
 PX_Named_Object_List<PX_Media_Type>* PX_Std_Plotter_Class_Factory::MK_Create_Media_Type_List() const {
     return create<PX_Named_Object_List<PX_Media_Type>>();
-}
-
-PX_Caps_Name_List_Object* PX_Std_Plotter_Class_Factory::MK_Create_Media_Size_In_Source() const {
-    return create<PX_Std_Caps_Name_List_Object>();
-}
-
-PX_Named_Object_List<PX_Caps_Name_List_Object>* PX_Std_Plotter_Class_Factory::MK_Create_Media_Size_Name_List()
-    const {
-    return create<PX_Named_Object_List<PX_Caps_Name_List_Object>>();
 }
 
 PX_Model* PX_Std_Plotter_Class_Factory::MK_Create_Model() const {

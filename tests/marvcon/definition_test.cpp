@@ -12,9 +12,7 @@
 
 namespace {
 
-using support::Device;
-using support::expect_thrown;
-using support::Test_Handler;
+using namespace support;
 
 // The creator gives exactly the standard class, without a reference, and null when there is no memory for it
 // or for what it holds.

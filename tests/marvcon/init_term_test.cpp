@@ -7,10 +7,7 @@
 
 namespace {
 
-using support::bytes;
-using support::dev_string;
-using support::Device;
-using support::expect_thrown;
+using namespace support;
 using Flag = PX_InitTerm_Ability_Flags;
 using Configuration = PX_InitTerm_Configuration;
 using Validator = PX_InitTerm_Validator;

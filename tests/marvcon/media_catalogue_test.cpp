@@ -5,9 +5,7 @@
 
 namespace {
 
-using support::Fields;
-using support::list_of;
-using support::Number;
+using namespace support;
 
 const PX_Float_XY sheet(3, 4);
 const PX_Float_Rectangle printable(5, 6, 7, 8);

@@ -5,12 +5,7 @@
 
 namespace {
 
-using support::expect_thrown;
-using support::Fields;
-using support::list_of;
-using support::named;
-using support::Number;
-using support::show;
+using namespace support;
 using Flag = PX_Media_Config_Flags;
 using Caps = PX_Media_Capabilities;
 using Configuration = PX_Media_Configuration;

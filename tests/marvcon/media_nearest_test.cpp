@@ -11,12 +11,7 @@
 
 namespace {
 
-using support::destination;
-using support::expect_thrown;
-using support::Media_Device;
-using support::named;
-using support::Number;
-using support::withdraw;
+using namespace support;
 using Name = PX_Std_Caps_Name_List_Object;
 using V = PX_Media_Validator;
 

@@ -8,10 +8,7 @@
 
 namespace {
 
-using support::drop;
-using support::Media_Device;
-using support::Number;
-using support::withdraw;
+using namespace support;
 using Ability = PX_Media_Ability_Flags;
 using Cfg = PX_Media_Config_Flags;
 using Strategy = PX_Validation_Strategy;

@@ -8,11 +8,7 @@
 
 namespace {
 
-using support::drop;
-using support::expect_thrown;
-using support::Media_Device;
-using support::Number;
-using support::withdraw;
+using namespace support;
 using Ability = PX_Media_Ability_Flags;
 using Cfg = PX_Media_Config_Flags;
 using Strategy = PX_Validation_Strategy;
@@ -341,21 +337,14 @@ public:
 #undef RECORD
 };
 
-class Recorder_Definition : public PX_Std_Plotter_Definition {
-public:
-    Recorder_Definition() : PX_Std_Plotter_Definition(new support::Test_Handler) {
-        class Factory : public PX_Std_Plotter_Class_Factory {
-            PX_Media_Validator* MK_Create_Media_Validator(PX_Plotter_Definition* plotter) const override {
-                return new Recorder(plotter);
-            }
-        };
-        m_class_factory = new Factory;
-        m_plotter_validator = m_class_factory->MK_Create_Plotter_Validator(this);
+class Recorder_Factory : public PX_Std_Plotter_Class_Factory {
+    PX_Media_Validator* MK_Create_Media_Validator(PX_Plotter_Definition* plotter) const override {
+        return new Recorder(plotter);
     }
 };
 
 TEST(Media_Validator_In_A_Run, GroupsHaveTheirOrders) {
-    const Media_Device device{new Recorder_Definition};
+    const Media_Device device{new Definition_With<Recorder_Factory>};
     Recorder validator(device.get());
     Recorder::calls.clear();
     validator.validate_all_media(Strategy::Use_Nearest);
@@ -366,7 +355,7 @@ TEST(Media_Validator_In_A_Run, GroupsHaveTheirOrders) {
 }
 
 TEST(Media_Validator_In_A_Run, EachDatumHasItsAbilityAndItsFlag) {
-    const Media_Device device{new Recorder_Definition};
+    const Media_Device device{new Definition_With<Recorder_Factory>};
     const auto run = [&] {
         Recorder::calls.clear();
         device.validator()->validate_all(Strategy::Use_Nearest, PX_Validation_Policy::Keep_All, true);

@@ -9,9 +9,7 @@
 
 namespace {
 
-using support::Device;
-using support::expect_thrown;
-using support::Test_Handler;
+using namespace support;
 using Policy = PX_Validation_Policy;
 using Strategy = PX_Validation_Strategy;
 using Action = PX_Validator_Action;
@@ -51,12 +49,8 @@ public:
     using PX_Std_Media_Validator::PX_Std_Media_Validator;
     TELLS(set_all_media_to_defaults, "media")
 };
-class Recording_IO : public PX_Plotter_IO_Validator, public PX_Object {
-    TELLS(set_all_io_to_defaults, "io")
-};
-class Recording_Pens : public PX_PhysPen_Validator, public PX_Object {
-    TELLS(set_all_physpen_to_defaults, "pens")
-};
+struct Recording_IO : PX_Plotter_IO_Validator, PX_Object { TELLS(set_all_io_to_defaults, "io") };
+struct Recording_Pens : PX_PhysPen_Validator, PX_Object { TELLS(set_all_physpen_to_defaults, "pens") };
 class Recording_RCM : public PX_ResColorMem_Validator, public PX_Object {
     TELLS(set_all_res_color_mem_to_defaults, "rcm")
     TELLS(set_res_color_mem_to_default, "rcm")
@@ -78,38 +72,21 @@ class Recording_Custom : public PX_Custom_Validator, public PX_Object {
 #undef TELLS
 // clang-format on
 
-class Recording_Factory : public PX_Std_Plotter_Class_Factory {
-public:
-    PX_Media_Validator* MK_Create_Media_Validator(PX_Plotter_Definition* plotter) const override {
-        return new Recording_Media(plotter);
+// clang-format off
+#define MAKES(domain, contract, Recording, ...)                                                           \
+    PX_##contract* MK_Create_##domain##_Validator([[maybe_unused]] PX_Plotter_Definition* plotter) const override { \
+        return new Recording(__VA_ARGS__);                                                                \
     }
-    PX_PhysPen_Validator* MK_Create_Pen_Validator(PX_Plotter_Definition*) const override {
-        return new Recording_Pens;
-    }
-    PX_InitTerm_Validator* MK_Create_InitTerm_Validator(PX_Plotter_Definition* plotter) const override {
-        return without_init_term ? nullptr : new Recording_InitTerm(plotter);
-    }
-    PX_Custom_Validator* MK_Create_Custom_Validator(PX_Plotter_Definition*) const override {
-        return new Recording_Custom;
-    }
-    PX_ResColorMem_Validator* MK_Create_ResColorMem_Validator(PX_Plotter_Definition*) const override {
-        return new Recording_RCM;
-    }
-    PX_Plotter_IO_Validator* MK_Create_Plotter_IO_Validator(PX_Plotter_Definition*) const override {
-        return new Recording_IO;
-    }
-
-    bool without_init_term = false;
+struct Recording_Factory : PX_Std_Plotter_Class_Factory {
+    MAKES(Media, Media_Validator, Recording_Media, plotter)
+    MAKES(InitTerm, InitTerm_Validator, Recording_InitTerm, plotter)
+    MAKES(Pen, PhysPen_Validator, Recording_Pens)
+    MAKES(Custom, Custom_Validator, Recording_Custom)
+    MAKES(ResColorMem, ResColorMem_Validator, Recording_RCM)
+    MAKES(Plotter_IO, Plotter_IO_Validator, Recording_IO)
 };
-
-// A driver's definition: its factory and the validator made by it come in after the standard ones.
-class Recording_Definition : public PX_Std_Plotter_Definition {
-public:
-    Recording_Definition() : PX_Std_Plotter_Definition(new Test_Handler) {
-        m_class_factory = new Recording_Factory;
-        m_plotter_validator = m_class_factory->MK_Create_Plotter_Validator(this);
-    }
-};
+#undef MAKES
+// clang-format on
 
 class Plotter_Validator : public testing::Test {
 protected:
@@ -125,7 +102,7 @@ protected:
         return calls;
     }
 
-    Device m_device{new Recording_Definition};
+    Device m_device{new Definition_With<Recording_Factory>};
     bool m_changed = false;
 };
 
@@ -302,13 +279,13 @@ TEST_F(Plotter_Validator, IsMadeOnlyWhole) {
     constexpr const wchar_t* constructor = L"PX_Std_Plotter_Validator::PX_Std_Plotter_Validator";
     expect_thrown<MVNK_Error>([] { PX_Std_Plotter_Validator validator(nullptr); }, 1103, constructor,
                               L"plotter");
-    class Definition : public PX_Std_Plotter_Definition {
-    public:
-        Definition() : PX_Std_Plotter_Definition(nullptr) {
-            auto* const factory = new Recording_Factory;
-            factory->without_init_term = true;
-            m_class_factory = factory;
+    struct Factory : Recording_Factory {
+        PX_InitTerm_Validator* MK_Create_InitTerm_Validator(PX_Plotter_Definition*) const override {
+            return nullptr;
         }
+    };
+    struct Definition : PX_Std_Plotter_Definition {
+        Definition() : PX_Std_Plotter_Definition(nullptr) { m_class_factory = new Factory; }
     } plotter;
     expect_thrown<MVNK_Memory_Exception>([&] { PX_Std_Plotter_Validator validator(&plotter); }, 1101,
                                          constructor, L"m_init_term_validator");

@@ -16,16 +16,12 @@ public:
         plotter->set_meta_capabilities(factory->MK_Create_Meta_Capabilities());
         PX_Plotter_Capabilities* const caps = factory->MK_Create_Plotter_Capabilities(L"", L"", L"");
         plotter->set_plotter_capabilities(caps);
-        caps->set_media_capabilities(
-            PX_Smart_Pointer<PX_Media_Capabilities>(factory->MK_Create_Media_Capabilities()).get());
-        caps->set_init_term_capabilities(
-            PX_Smart_Pointer<PX_InitTerm_Capabilities>(factory->MK_Create_InitTerm_Capabilities()).get());
+        caps->set_media_capabilities(PX_Smart_Pointer(factory->MK_Create_Media_Capabilities()).get());
+        caps->set_init_term_capabilities(PX_Smart_Pointer(factory->MK_Create_InitTerm_Capabilities()).get());
         PX_Plotter_Configuration* const cfg = factory->MK_Create_Plotter_Configuration(L"", L"", L"");
         plotter->set_plotter_configuration(cfg);
-        cfg->set_media_configuration(
-            PX_Smart_Pointer<PX_Media_Configuration>(factory->MK_Create_Media_Configuration()).get());
-        cfg->set_init_term_configuration(
-            PX_Smart_Pointer<PX_InitTerm_Configuration>(factory->MK_Create_InitTerm_Configuration()).get());
+        cfg->set_media_configuration(PX_Smart_Pointer(factory->MK_Create_Media_Configuration()).get());
+        cfg->set_init_term_configuration(PX_Smart_Pointer(factory->MK_Create_InitTerm_Configuration()).get());
     }
 
     PX_Plotter_Definition* operator->() const { return m_plotter.get(); }
@@ -46,6 +42,16 @@ public:
 
 private:
     PX_Smart_Pointer<PX_Plotter_Definition> m_plotter;
+};
+
+// A driver's definition: its factory, and the validator that this makes, come in after the standard ones.
+template <class Factory>
+class Definition_With : public PX_Std_Plotter_Definition {
+public:
+    Definition_With() : PX_Std_Plotter_Definition(new Test_Handler) {
+        m_class_factory = new Factory;
+        m_plotter_validator = m_class_factory->MK_Create_Plotter_Validator(this);
+    }
 };
 
 // The bytes of a device string, or "(null)".

@@ -319,6 +319,7 @@ TEST(Media_Configuration, LaysThePrintableBoundsByTheOrientation) {
     EXPECT_EQ(lay({2, 11, 30, 49}), PX_Float_Rectangle(2, 21, 30, 39)) << "about the lower corner";
     // Single precision in this order: 2^24 + 11 becomes 2^24 + 12, and 1 less is 2^24 + 12 again.
     EXPECT_EQ(lay({0, 10, 16777216, 16777236}), PX_Float_Rectangle(0, 20, 16777216, 16777228));
+    EXPECT_EQ(lay({16777216, 16777236, 0, 10}), PX_Float_Rectangle(16777216, 16777228, 0, 20));
     EXPECT_EQ(lay(printable), PX_Float_Rectangle(0, 19, 0, 9));
     EXPECT_EQ(*cfg.get_media_settings()->get_printable_bounds(), printable);
     for (const long orientation : {1L, 3L}) {

@@ -9,9 +9,6 @@
 namespace {
 
 using namespace support;
-using Ability = PX_Media_Ability_Flags;
-using Cfg = PX_Media_Config_Flags;
-using Strategy = PX_Validation_Strategy;
 
 // What the data of the selection chain have in common, and what the device's configuration is repaired to.
 struct Datum {

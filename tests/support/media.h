@@ -7,6 +7,10 @@
 
 namespace support {
 
+using Ability = PX_Media_Ability_Flags;
+using Cfg = PX_Media_Config_Flags;
+using Strategy = PX_Validation_Strategy;
+
 // A number as any of the enumerations, most of whose values only drivers name.
 struct Number {
     int value;

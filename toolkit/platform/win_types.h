@@ -145,6 +145,7 @@ constexpr DWORD PURGE_RXCLEAR = 8;
 constexpr DWORD EV_CTS = 0x8;
 constexpr DWORD EV_DSR = 0x10;
 constexpr DWORD EV_BREAK = 0x40;
+constexpr DWORD CE_RXOVER = 0x1;
 constexpr DWORD CE_OVERRUN = 0x2;
 constexpr DWORD CE_RXPARITY = 0x4;
 constexpr DWORD CE_FRAME = 0x8;

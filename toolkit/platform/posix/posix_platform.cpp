@@ -5,11 +5,14 @@
 
 #include <cerrno>
 #include <filesystem>
+#include <iterator>
 #include <string>
 #include <system_error>
+#include <utility>
 #include <vector>
 
 #include "toolkit/platform/back_end.h"
+#include "toolkit/platform/posix/posix_files.h"
 #include "toolkit/platform/posix/text_module.h"
 #include "toolkit/platform/utf8.h"
 
@@ -85,7 +88,24 @@ PX_Platform& px_native_platform() {
 }
 
 PX_Posix_Platform::PX_Posix_Platform(int answers_fd, int questions_fd)
-    : m_answers_fd(answers_fd), m_questions_fd(questions_fd) {
+    : m_answers_fd(answers_fd),
+      m_questions_fd(questions_fd),
+      m_files(std::make_unique<PX_Posix_Files>([this](std::wstring text) { keep_error(std::move(text)); })) {
+}
+
+PX_Posix_Platform::~PX_Posix_Platform() = default;
+
+void PX_Posix_Platform::keep_error(std::wstring text) {
+    const std::lock_guard lock(m_error_lock);
+    m_last_error = std::move(text);
+}
+
+const wchar_t* PX_Posix_Platform::last_error() const {
+    // Not a string: its destructor would hold the module in the process until the thread ends.
+    thread_local wchar_t text[256];
+    const std::lock_guard lock(m_error_lock);
+    px_copy_cut(m_last_error, text, std::size(text));
+    return text;
 }
 
 HMODULE PX_Posix_Platform::LoadLibraryExW(const wchar_t* name, HANDLE, DWORD) {

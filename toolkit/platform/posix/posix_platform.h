@@ -1,6 +1,12 @@
 #pragma once
 
+#include <memory>
+#include <mutex>
+#include <string>
+
 #include "toolkit/platform/platform.h"
+
+class PX_Posix_Files;
 
 // A machine with dlopen, UTF-8 and a terminal.
 //
@@ -10,10 +16,27 @@
 //
 // Boxes: asked and answered in English where both descriptors are terminals, a line for an answer. Elsewhere
 // the text is printed, and the answer is the one that ends the matter: Abort, Cancel, or else OK.
+//
+// Ports: "COM1" is the first of the serial lines that the machine has, built-in ones before those that are
+// plugged, "LPT1" the first of the parallel and the USB printers; "com1:" and "\\.\COM1" are the same. Such a
+// name is always a port's where the disposition is OPEN_EXISTING, and a file's where it is CREATE_ALWAYS. A
+// port belongs to one handle, in all processes; a file does for `share` 0 among programs that lock as we do.
+// Several threads may use the platform at a time, but not the same handle, except for PurgeComm.
 class PX_EXPORT PX_Posix_Platform : public PX_Platform {
 public:
     // The descriptors stay the caller's.
     explicit PX_Posix_Platform(int answers_fd = 0, int questions_fd = 2);
+    // Closes what is open.
+    ~PX_Posix_Platform() override;
+
+    // Has the port of this name use the device from its next opening on, whether the machine has the port or
+    // not: a pseudo terminal, or a path that stays with one adapter. A null or empty device takes that back.
+    // False for a name that is not COM or LPT and a number.
+    bool map_port(const wchar_t* name, const char* device);
+
+    // What the last operation that failed had to say, such as "COM1: Device or resource busy"; empty before
+    // the first. The text, cut at 255 characters, is good until the calling thread asks again.
+    const wchar_t* last_error() const;
 
     // `file` and `flags` are not used.
     HMODULE LoadLibraryExW(const wchar_t* name, HANDLE file, DWORD flags) override;
@@ -40,21 +63,32 @@ public:
     // refuses a rounding or an exception.
     int _controlfp_s(unsigned int* current, unsigned int value, unsigned int mask) override;
 
+    // CREATE_ALWAYS needs GENERIC_WRITE, and no other disposition than this and OPEN_EXISTING is known. A
+    // serial port comes up raw, with the rate and frame that it had, and a port has no time-outs at first.
     HANDLE CreateFileW(const wchar_t* name, DWORD access, DWORD share, SECURITY_ATTRIBUTES* security,
                        DWORD disposition, DWORD attributes, HANDLE file_template) override;
     BOOL ReadFile(HANDLE file, void* bytes, DWORD size, DWORD* read, OVERLAPPED* overlapped) override;
     BOOL WriteFile(HANDLE file, const void* bytes, DWORD size, DWORD* written,
                    OVERLAPPED* overlapped) override;
+    // A port sends what it took as long as bytes go out; where none does for the time-out of the last write,
+    // or after an hour, the rest is dropped. A serial line gets back the settings it was found with.
     BOOL CloseHandle(HANDLE file) override;
     BOOL GetCommState(HANDLE port, DCB* state) override;
+    // Sends first as CloseHandle does, and fails where something is left. Without RTS and DTR, as on a pseudo
+    // terminal, they count as set. CTS flow and the RTS handshake come together only; DSR flow, the DTR
+    // handshake, the RTS toggle, an error character and dropped nulls are refused, and so is what the driver
+    // did not take when asked.
     BOOL SetCommState(HANDLE port, DCB* state) override;
     BOOL GetCommTimeouts(HANDLE port, COMMTIMEOUTS* timeouts) override;
     BOOL SetCommTimeouts(HANDLE port, COMMTIMEOUTS* timeouts) override;
     BOOL GetCommMask(HANDLE port, DWORD* events) override;
     BOOL SetCommMask(HANDLE port, DWORD events) override;
     BOOL PurgeComm(HANDLE port, DWORD flags) override;
+    // Of a printer, where it tells: CE_OOP without paper, CE_DNS off line, CE_PTO for another error. Fails
+    // for a `status`.
     BOOL ClearCommError(HANDLE port, DWORD* errors, COMSTAT* status) override;
 
+    // Level 2 only; the names have a colon, and LPT comes before COM.
     BOOL EnumPortsW(wchar_t* server, DWORD level, BYTE* records, DWORD size, DWORD* needed,
                     DWORD* count) override;
     BOOL EnumPrintersW(DWORD flags, wchar_t* name, DWORD level, BYTE* records, DWORD size, DWORD* needed,
@@ -76,6 +110,11 @@ public:
     DWORD WNetGetConnectionW(const wchar_t* local_name, wchar_t* remote_name, DWORD* size) override;
 
 private:
+    void keep_error(std::wstring text);
+
     int m_answers_fd;
     int m_questions_fd;
+    mutable std::mutex m_error_lock;
+    std::wstring m_last_error;
+    std::unique_ptr<PX_Posix_Files> m_files;
 };

@@ -1,9 +1,5 @@
 #include "toolkit/platform/posix/posix_platform.h"
 
-BOOL PX_Posix_Platform::EnumPortsW(wchar_t*, DWORD, BYTE*, DWORD, DWORD*, DWORD*) {
-    return 0;
-}
-
 BOOL PX_Posix_Platform::EnumPrintersW(DWORD, wchar_t*, DWORD, BYTE*, DWORD, DWORD*, DWORD*) {
     return 0;
 }

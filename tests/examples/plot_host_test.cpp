@@ -240,7 +240,9 @@ TEST_F(Plot_Host, PoliciesDecideOverForeignStrings) {
         strings->set_preinit_string(&foreign);
         strings->set_postinit_string(&foreign);
         strings->set_termination_string(&own_end);
-        EXPECT_FALSE(device->get_plotter_validator()->validate_all(Strategy::Use_Nearest, row.policy, true));
+        const auto validator = device->get_plotter_validator();
+        validator->set_selected_to_defaults(PX_Domain_Mask::IO);
+        EXPECT_FALSE(validator->validate_all(Strategy::Use_Nearest, row.policy, true));
         const auto expect_string = [&](const auto& string, Flag::Enum flag, const std::string& bytes,
                                        bool validated, bool is_default) {
             EXPECT_EQ(support::bytes(string), bytes);

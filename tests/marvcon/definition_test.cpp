@@ -217,7 +217,7 @@ TEST(Roots, AreClonedWholeAndInOrder) {
     set(caps, &A::set_linetype_capabilities, Caps<PX_Linetype_Capabilities>("linetypes"));
     set(caps, &A::set_raster_capabilities, Caps<PX_Raster_Capabilities>("raster"));
     set(caps, &A::set_phys_pen_capabilities, Caps<PX_PhysPen_Capabilities>("pens"));
-    set(caps, &A::set_io_capabilities, Caps<PX_Plotter_IO_Capabilities>("io"));
+    set(caps, &A::set_io_capabilities, Caps<PX_Plotter_IO_Capabilities, PX_Std_Plotter_IO_Capabilities>("io"));
     set(caps, &A::set_media_capabilities, Caps<PX_Media_Capabilities, PX_Std_Media_Capabilities>("media"));
     expect_cloned<A>(caps, "media io pens raster linetypes rcm init-term custom ", &A::get_media_capabilities,
                      &A::get_io_capabilities, &A::get_phys_pen_capabilities, &A::get_raster_capabilities,
@@ -231,7 +231,7 @@ TEST(Roots, AreClonedWholeAndInOrder) {
     set(cfg, &B::set_phys_pen_configuration, Cfg<PX_PhysPen_Configuration>("pens"));
     set(cfg, &B::set_init_term_configuration, Cfg<PX_InitTerm_Configuration, PX_Std_InitTerm_Configuration>("init-term"));
     set(cfg, &B::set_res_color_mem_configuration, Cfg<PX_ResColorMem_Configuration>("rcm"));
-    set(cfg, &B::set_io_configuration, Cfg<PX_Plotter_IO_Configuration>("io"));
+    set(cfg, &B::set_io_configuration, Cfg<PX_Plotter_IO_Configuration, PX_Std_Plotter_IO_Configuration>("io"));
     set(cfg, &B::set_media_configuration, Cfg<PX_Media_Configuration, PX_Std_Media_Configuration>("media"));
     // clang-format on
     expect_cloned<B>(cfg, "media io rcm init-term pens custom ", &B::get_media_configuration,

@@ -49,7 +49,11 @@ public:
     using PX_Std_Media_Validator::PX_Std_Media_Validator;
     TELLS(set_all_media_to_defaults, "media")
 };
-struct Recording_IO : PX_Plotter_IO_Validator, PX_Object { TELLS(set_all_io_to_defaults, "io") };
+class Recording_IO : public PX_Std_Plotter_IO_Validator {
+public:
+    using PX_Std_Plotter_IO_Validator::PX_Std_Plotter_IO_Validator;
+    TELLS(set_all_io_to_defaults, "io")
+};
 struct Recording_Pens : PX_PhysPen_Validator, PX_Object { TELLS(set_all_physpen_to_defaults, "pens") };
 class Recording_RCM : public PX_ResColorMem_Validator, public PX_Object {
     TELLS(set_all_res_color_mem_to_defaults, "rcm")
@@ -83,7 +87,7 @@ struct Recording_Factory : PX_Std_Plotter_Class_Factory {
     MAKES(Pen, PhysPen_Validator, Recording_Pens)
     MAKES(Custom, Custom_Validator, Recording_Custom)
     MAKES(ResColorMem, ResColorMem_Validator, Recording_RCM)
-    MAKES(Plotter_IO, Plotter_IO_Validator, Recording_IO)
+    MAKES(Plotter_IO, Plotter_IO_Validator, Recording_IO, plotter)
 };
 #undef MAKES
 // clang-format on
@@ -184,6 +188,7 @@ TEST_F(Plotter_Validator, ReportsWhatIsMissingWhereItIsNeeded) {
     constexpr const wchar_t* function = L"PX_Std_Plotter_Validator::validate_media_datum";
     m_device.media_caps()->set_abilities(PX_Ability_Value::Ability_Conditional);
     m_device.init_term_caps()->set_abilities(PX_Ability_Value::Ability_Conditional);
+    m_device.io_caps()->set_abilities(PX_Ability_Value::Ability_Conditional);
     m_device->set_plotter_configuration(nullptr);
     EXPECT_EQ(run(Policy::Keep_All), "custom ") << "nothing is asked of the configuration";
     expect_thrown<PX_Exception>([&] { run(Policy::Validate_Conditional); }, 1103, function,

@@ -68,3 +68,8 @@ unsigned long long GetMVNErrResHandle() {
     }
     return reinterpret_cast<unsigned long long>(cached);
 }
+
+int px_load_mvn_text(unsigned int id, wchar_t* text, int size) {
+    const auto module = reinterpret_cast<HMODULE>(GetMVNErrResHandle());
+    return module ? PX_Get_Platform().LoadStringW(module, id, text, size) : 0;
+}

@@ -52,30 +52,41 @@ void px_store_clone(PX_Smart_Pointer<T>& field, const T* source, const wchar_t* 
 }
 
 // A new empty list; no memory is std::bad_alloc.
-template <class T>
-PX_Smart_Pointer<PX_Named_Object_List<T>> px_new_list() {
-    auto* const list = new PX_Named_Object_List<T>;
+template <class T, template <class> class List = PX_Named_Object_List>
+PX_Smart_Pointer<List<T>> px_new_list() {
+    auto* const list = new List<T>;
     if (!list)
         throw std::bad_alloc();
     return list;
 }
 
 // A list of the clones of each element, in order; null for null.
-template <class T>
-PX_Smart_Pointer<PX_Named_Object_List<T>> px_copied_list(const PX_Named_Object_List<T>* source) {
+template <class T, template <class> class List>
+PX_Smart_Pointer<List<T>> px_copied_list(const List<T>* source) {
     if (!source)
         return nullptr;
-    auto copy = px_new_list<T>();
+    auto copy = px_new_list<T, List>();
     for (const auto& element : *source)
         copy->append(element ? element->clone() : nullptr);
     return copy;
 }
 
-// Stores a copy of a list, null for null, in the frame of `function`.
-template <class T>
-void px_store_list(PX_Smart_Pointer<PX_Named_Object_List<T>>& field, const PX_Named_Object_List<T>* list,
-                   const wchar_t* function) {
-    px_frame(function, [&] { field = px_copied_list(list); });
+// Stores a copy of a list, null for null, in the frame of `function`. No memory for it is std::bad_alloc, and
+// the field stays.
+template <class List>
+void px_store_list(PX_Smart_Pointer<List>& field, const List* list, const wchar_t* function) {
+    field = px_frame(function, [&] { return px_copied_list(list); });
+}
+
+// The same, but no memory is MVNK_Memory_Exception 1101.
+template <class List>
+void px_store_list(PX_Smart_Pointer<List>& field, const List* list, const wchar_t* function,
+                   const wchar_t* detail, const wchar_t* file) {
+    try {
+        px_store_list(field, list, function);
+    } catch (const std::bad_alloc&) {
+        throw MVNK_Memory_Exception(PX_Code::No_Memory, function, detail, file);
+    }
 }
 
 // The entry of that name; null when there is no list, no name or no such entry.

@@ -2,6 +2,7 @@
 
 #include "examples/common/made.h"
 #include "examples/drivers/ppd/init_term.h"
+#include "examples/drivers/ppd/io.h"
 #include "examples/drivers/ppd/media.h"
 #include "examples/drivers/ppd/meta.h"
 
@@ -33,6 +34,7 @@ Ppd_Definition::Ppd_Definition(PX_Smart_Pointer<PX_Error_Handler> handler,
              L"m_plotter_capabilities");
     m_plotter_capabilities->set_init_term_capabilities(ppd_init_term_capabilities(*file, factory).get());
     m_plotter_capabilities->set_media_capabilities(ppd_media_capabilities(*file, factory).get());
+    m_plotter_capabilities->set_io_capabilities(ppd_io_capabilities(factory).get());
 }
 
 PX_Smart_Pointer<PX_Plotter_Definition> open_ppd_device(const std::filesystem::path& description,

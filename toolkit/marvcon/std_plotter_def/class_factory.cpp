@@ -6,6 +6,10 @@
 #include "toolkit/marvcon/std_init_term_cfg/capabilities.h"
 #include "toolkit/marvcon/std_init_term_cfg/configuration.h"
 #include "toolkit/marvcon/std_init_term_cfg/validator.h"
+#include "toolkit/marvcon/std_io_cfg/capabilities.h"
+#include "toolkit/marvcon/std_io_cfg/catalogue.h"
+#include "toolkit/marvcon/std_io_cfg/configuration.h"
+#include "toolkit/marvcon/std_io_cfg/validator.h"
 #include "toolkit/marvcon/std_media_cfg/capabilities.h"
 #include "toolkit/marvcon/std_media_cfg/catalogue.h"
 #include "toolkit/marvcon/std_media_cfg/configuration.h"
@@ -17,6 +21,7 @@
 #include "toolkit/marvcon/std_plotter_def/configuration.h"
 #include "toolkit/marvcon/std_plotter_def/definition.h"
 #include "toolkit/marvcon/std_plotter_def/shoebox.h"
+#include "toolkit/marvcon/std_plotter_io/channel.h"
 #include "toolkit/marvcon/std_plval/validator.h"
 
 namespace {
@@ -53,6 +58,14 @@ PX_InitTerm_Validator* PX_Std_Plotter_Class_Factory::MK_Create_InitTerm_Validato
     return create<PX_Std_InitTerm_Validator>(plotter);
 }
 
+PX_Baud_Rate* PX_Std_Plotter_Class_Factory::MK_Create_Baud_Rate() const {
+    return create<PX_Std_Baud_Rate>();
+}
+
+PX_Object_List<PX_Baud_Rate>* PX_Std_Plotter_Class_Factory::MK_Create_Baud_Rate_List() const {
+    return create<PX_Object_List<PX_Baud_Rate>>();
+}
+
 PX_Searchable_Atomic_Object_List<PX_Parity::Enum>* PX_Std_Plotter_Class_Factory::MK_Create_Parity_List()
     const {
     return create<PX_Searchable_Atomic_Object_List<PX_Parity::Enum>>();
@@ -61,6 +74,48 @@ PX_Searchable_Atomic_Object_List<PX_Parity::Enum>* PX_Std_Plotter_Class_Factory:
 PX_Searchable_Atomic_Object_List<PX_Handshake::Enum>* PX_Std_Plotter_Class_Factory::MK_Create_Handshake_List()
     const {
     return create<PX_Searchable_Atomic_Object_List<PX_Handshake::Enum>>();
+}
+
+PX_Protocol* PX_Std_Plotter_Class_Factory::MK_Create_Protocol() const {
+    return create<PX_Std_Protocol>();
+}
+
+PX_Named_Object_List<PX_Protocol>* PX_Std_Plotter_Class_Factory::MK_Create_Protocol_List() const {
+    return create<PX_Named_Object_List<PX_Protocol>>();
+}
+
+PX_IO_Method* PX_Std_Plotter_Class_Factory::MK_Create_IO_Method() const {
+    return create<PX_Std_IO_Method>();
+}
+
+PX_Object_List<PX_IO_Method>* PX_Std_Plotter_Class_Factory::MK_Create_IO_Method_List() const {
+    return create<PX_Object_List<PX_IO_Method>>();
+}
+
+PX_IO_Port* PX_Std_Plotter_Class_Factory::MK_Create_IO_Port() const {
+    return create<PX_Std_IO_Port>();
+}
+
+PX_Named_Object_List<PX_IO_Port>* PX_Std_Plotter_Class_Factory::MK_Create_IO_Port_List() const {
+    return create<PX_Named_Object_List<PX_IO_Port>>();
+}
+
+PX_Plotter_IO_Configuration* PX_Std_Plotter_Class_Factory::MK_Create_Plotter_IO_Configuration() const {
+    return create<PX_Std_Plotter_IO_Configuration>();
+}
+
+PX_Plotter_IO_Capabilities* PX_Std_Plotter_Class_Factory::MK_Create_Plotter_IO_Capabilities() const {
+    return create<PX_Std_Plotter_IO_Capabilities>();
+}
+
+PX_Plotter_IO_Validator* PX_Std_Plotter_Class_Factory::MK_Create_Plotter_IO_Validator(
+    PX_Plotter_Definition* plotter) const {
+    return create<PX_Std_Plotter_IO_Validator>(plotter);
+}
+
+PX_Plotter_IO* PX_Std_Plotter_Class_Factory::MK_Create_Plotter_IO(
+    PX_Smart_Pointer<PX_Error_Handler> handler) const {
+    return create<PX_Std_Plotter_IO>(std::move(handler));
 }
 
 PX_Media_Capabilities* PX_Std_Plotter_Class_Factory::MK_Create_Media_Capabilities() const {

@@ -3,6 +3,7 @@
 #include "toolkit/core/clone.h"
 #include "toolkit/core/fields.h"
 #include "toolkit/marvcon/std_init_term_cfg/interface.h"
+#include "toolkit/marvcon/std_io_cfg/interface.h"
 #include "toolkit/marvcon/std_media_cfg/interface.h"
 #include "toolkit/marvcon/std_plotter_def/pending.h"
 

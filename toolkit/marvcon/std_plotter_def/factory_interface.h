@@ -2,7 +2,7 @@
 
 #include "toolkit/core/atomic_list.h"
 #include "toolkit/core/object_list.h"
-#include "toolkit/marvcon/std_io_cfg/line_settings.h"
+#include "toolkit/marvcon/std_io_cfg/values.h"
 #include "toolkit/marvcon/std_plotter_def/interface.h"
 
 class PX_Caps_Loader;  // a driver's own; the toolkit has none

@@ -64,56 +64,6 @@ PX_Custom_Validator* PX_Std_Plotter_Class_Factory::MK_Create_Custom_Validator(
     return nullptr;
 }
 
-PX_Baud_Rate* PX_Std_Plotter_Class_Factory::MK_Create_Baud_Rate() const {
-    return nullptr;
-}
-
-PX_Object_List<PX_Baud_Rate>* PX_Std_Plotter_Class_Factory::MK_Create_Baud_Rate_List() const {
-    return nullptr;
-}
-
-PX_Protocol* PX_Std_Plotter_Class_Factory::MK_Create_Protocol() const {
-    return nullptr;
-}
-
-PX_Named_Object_List<PX_Protocol>* PX_Std_Plotter_Class_Factory::MK_Create_Protocol_List() const {
-    return nullptr;
-}
-
-PX_IO_Method* PX_Std_Plotter_Class_Factory::MK_Create_IO_Method() const {
-    return nullptr;
-}
-
-PX_Object_List<PX_IO_Method>* PX_Std_Plotter_Class_Factory::MK_Create_IO_Method_List() const {
-    return nullptr;
-}
-
-PX_IO_Port* PX_Std_Plotter_Class_Factory::MK_Create_IO_Port() const {
-    return nullptr;
-}
-
-PX_Named_Object_List<PX_IO_Port>* PX_Std_Plotter_Class_Factory::MK_Create_IO_Port_List() const {
-    return nullptr;
-}
-
-PX_Plotter_IO_Configuration* PX_Std_Plotter_Class_Factory::MK_Create_Plotter_IO_Configuration() const {
-    return nullptr;
-}
-
-PX_Plotter_IO_Capabilities* PX_Std_Plotter_Class_Factory::MK_Create_Plotter_IO_Capabilities() const {
-    return nullptr;
-}
-
-PX_Plotter_IO_Validator* PX_Std_Plotter_Class_Factory::MK_Create_Plotter_IO_Validator(
-    PX_Plotter_Definition* /*plotter*/) const {
-    return nullptr;
-}
-
-PX_Plotter_IO* PX_Std_Plotter_Class_Factory::MK_Create_Plotter_IO(
-    PX_Smart_Pointer<PX_Error_Handler> /*handler*/) const {
-    return nullptr;
-}
-
 PX_Linetype_Capabilities* PX_Std_Plotter_Class_Factory::MK_Create_Linetype_Capabilities() const {
     return nullptr;
 }

@@ -53,7 +53,7 @@ public:
     template <class Flag>
     void settle_default(Flag flag) const {
         this->configuration->set_one_default(true, flag);
-        this->configuration->set_one_validated(true, flag);
+        settle(flag);
     }
 
     // MVNK_Error with the operation's name.
@@ -66,7 +66,7 @@ public:
         px_require_made(object, m_function, detail, Domain::file_tag);
     }
 
-private:
+protected:
     const PX_Plotter_Definition* m_plotter;
     const wchar_t* m_function;
 };

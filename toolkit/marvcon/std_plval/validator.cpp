@@ -206,7 +206,7 @@ void PX_Std_Plotter_Validator::set_all_to_defaults() {
                          &PX_ResColorMem_Validator::set_all_res_color_mem_to_defaults);
         px_call_if_built(m_custom_validator, &PX_Custom_Validator::set_all_custom_to_defaults);
         m_init_term_validator->set_all_init_term_to_defaults();
-        px_call_if_built(m_io_validator, &PX_Plotter_IO_Validator::set_all_io_to_defaults);
+        m_io_validator->set_all_io_to_defaults();
     });
 }
 
@@ -215,7 +215,7 @@ void PX_Std_Plotter_Validator::set_selected_to_defaults(long mask) {
         if (mask & PX_Domain_Mask::Media)
             m_media_validator->set_all_media_to_defaults();
         if (mask & PX_Domain_Mask::IO)
-            px_call_if_built(m_io_validator, &PX_Plotter_IO_Validator::set_all_io_to_defaults);
+            m_io_validator->set_all_io_to_defaults();
         if (mask & PX_Domain_Mask::Phys_Pens)
             px_call_if_built(m_phys_pen_validator, &PX_PhysPen_Validator::set_all_physpen_to_defaults);
         if (mask & PX_Domain_Mask::Res_Color_Mem)

@@ -4,6 +4,7 @@
 #include "toolkit/host/object.h"
 #include "toolkit/host/string.h"
 #include "toolkit/marvcon/std_init_term_cfg/interface.h"
+#include "toolkit/marvcon/std_io_cfg/interface.h"
 #include "toolkit/marvcon/std_media_cfg/interface.h"
 #include "toolkit/marvcon/std_plotter_def/pending.h"
 #include "toolkit/marvcon/std_plval/interface.h"
@@ -77,6 +78,9 @@ protected:
                                  PX_InitTerm_Ability_Flags::Enum datum,
                                  void (PX_InitTerm_Validator::*validate)(PX_Validation_Strategy::Enum),
                                  void (PX_InitTerm_Validator::*set_to_default)());
+    void validate_io_datum(PX_Plotter_IO_Ability_Flags::Enum ability, PX_IO_Config_Flags::Enum datum,
+                           void (PX_Plotter_IO_Validator::*validate)(PX_Validation_Strategy::Enum),
+                           void (PX_Plotter_IO_Validator::*set_to_default)());
 
     PX_Plotter_Definition* m_plotter;
     // The arguments of the last run.

@@ -1,5 +1,6 @@
 #include "toolkit/core/frame.h"
 #include "toolkit/marvcon/std_init_term_cfg/domain.h"
+#include "toolkit/marvcon/std_io_cfg/domain.h"
 #include "toolkit/marvcon/std_media_cfg/domain.h"
 #include "toolkit/marvcon/std_plval/domain_objects.h"
 #include "toolkit/marvcon/std_plval/validator.h"
@@ -34,6 +35,9 @@ using MC = PX_Media_Config_Flags;
 using MV = PX_Media_Validator;
 using IT = PX_InitTerm_Ability_Flags;
 using IV = PX_InitTerm_Validator;
+using OA = PX_Plotter_IO_Ability_Flags;
+using OC = PX_IO_Config_Flags;
+using OV = PX_Plotter_IO_Validator;
 
 // clang-format off
 // Size and margins read the same ability.
@@ -58,6 +62,17 @@ constexpr Row<IV, IT, IT> init_term_rows[] = {
     {IT::Postinit_String,    IT::Postinit_String,    &IV::validate_postinit_string,    &IV::set_postinit_string_to_default},
     {IT::Termination_String, IT::Termination_String, &IV::validate_termination_string, &IV::set_termination_string_to_default},
 };
+
+// The port name goes with the type.
+constexpr Row<OV, OA, OC> io_rows[] = {
+    {OA::IO_Type,           OC::IO_Config_Type,           &OV::validate_portname_and_type, &OV::set_portname_and_type_to_default},
+    {OA::IO_Protocol,       OC::IO_Config_Protocol,       &OV::validate_protocol,          &OV::set_protocol_to_default},
+    {OA::IO_Baud_Rate,      OC::IO_Config_Baud_Rate,      &OV::validate_baud_rate,         &OV::set_baud_rate_to_default},
+    {OA::IO_Handshake,      OC::IO_Config_Handshake,      &OV::validate_handshake,         &OV::set_handshake_to_default},
+    {OA::IO_Input_Timeout,  OC::IO_Config_Input_Timeout,  &OV::validate_input_timeout,     &OV::set_input_timeout_to_default},
+    {OA::IO_Output_Timeout, OC::IO_Config_Output_Timeout, &OV::validate_output_timeout,    &OV::set_output_timeout_to_default},
+    {OA::IO_Pathname,       OC::IO_Config_Pathname,       &OV::validate_pathname,          &OV::set_pathname_to_default},
+};
 // clang-format on
 
 }  // namespace
@@ -68,6 +83,8 @@ void PX_Std_Plotter_Validator::walk_every_datum() {
         validate_media_datum(row.ability, row.datum, row.validate, row.set_to_default);
     for (const auto& row : init_term_rows)
         validate_initterm_datum(row.ability, row.datum, row.validate, row.set_to_default);
+    for (const auto& row : io_rows)
+        validate_io_datum(row.ability, row.datum, row.validate, row.set_to_default);
     // Custom data have no ability: they are validated under every policy.
     px_call_if_built(m_custom_validator, &PX_Custom_Validator::validate_all_custom, m_strategy);
 }
@@ -112,6 +129,14 @@ void PX_Std_Plotter_Validator::validate_initterm_datum(
     void (PX_InitTerm_Validator::*set_to_default)()) {
     validate_datum<PX_InitTerm_Domain>(L"PX_Std_Plotter_Validator::validate_initterm_datum",
                                        *m_init_term_validator, ability, datum, validate, set_to_default);
+}
+
+void PX_Std_Plotter_Validator::validate_io_datum(
+    PX_Plotter_IO_Ability_Flags::Enum ability, PX_IO_Config_Flags::Enum datum,
+    void (PX_Plotter_IO_Validator::*validate)(PX_Validation_Strategy::Enum),
+    void (PX_Plotter_IO_Validator::*set_to_default)()) {
+    validate_datum<PX_IO_Domain>(L"PX_Std_Plotter_Validator::validate_io_datum", *m_io_validator, ability,
+                                 datum, validate, set_to_default);
 }
 
 PX_Validator_Action::Enum PX_Std_Plotter_Validator::check_validate_datum(

@@ -1,0 +1,3 @@
+#pragma once
+
+#include "toolkit/marvcon/std_sys_io_caps/capabilities.h"

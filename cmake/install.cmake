@@ -12,6 +12,14 @@ install(
     PATTERN "*.h"
     PATTERN "resources" EXCLUDE)
 
+# A program that holds the toolkit in itself links what the toolkit links.
+set(marvcon_dependencies)
+set(marvcon_private_libs)
+if(marvcon_cups)
+    set(marvcon_dependencies "include(CMakeFindDependencyMacro)\nfind_dependency(Cups)\n")
+    set(marvcon_private_libs " -lcups")
+endif()
+
 install(EXPORT marvcon_targets NAMESPACE marvcon:: DESTINATION ${marvcon_package_dir})
 configure_package_config_file(
     ${CMAKE_CURRENT_LIST_DIR}/marvcon-config.cmake.in ${PROJECT_BINARY_DIR}/marvcon-config.cmake

@@ -4,7 +4,6 @@
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <link.h>
-#include <pty.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -17,7 +16,9 @@
 #include <tuple>
 #include <utility>
 
+#include "tests/support/terminal.h"
 #include "toolkit/platform/floating_point_guard.h"
+#include "toolkit/platform/utf8.h"
 
 #if defined(__SSE2__)
 #    include <xmmintrin.h>
@@ -31,44 +32,6 @@ std::wstring wide(const fs::path& path) {
     const std::u32string text = path.u32string();
     return {text.begin(), text.end()};
 }
-
-std::string read_all(int fd) {
-    std::string all;
-    char some[4096];
-    for (ssize_t got; (got = read(fd, some, sizeof some)) > 0;)
-        all.append(some, static_cast<std::size_t>(got));
-    return all;
-}
-
-// A terminal that passes lines as they are; what is typed waits until a box asks.
-class Terminal {
-public:
-    Terminal() {
-        EXPECT_EQ(openpty(&m_user, &program, nullptr, nullptr, nullptr), 0);
-        termios plain{};
-        tcgetattr(program, &plain);
-        plain.c_lflag &= ~static_cast<tcflag_t>(ECHO);
-        plain.c_oflag &= ~static_cast<tcflag_t>(OPOST);
-        tcsetattr(program, TCSANOW, &plain);
-    }
-    ~Terminal() {
-        close(program);
-        close(m_user);
-    }
-    void type(const std::string& keys) {
-        EXPECT_EQ(write(m_user, keys.data(), keys.size()), static_cast<ssize_t>(keys.size()));
-    }
-    // Hangs up.
-    std::string shown() {
-        close(std::exchange(program, -1));
-        return read_all(m_user);
-    }
-
-    int program = -1;
-
-private:
-    int m_user = -1;
-};
 
 // Puts the word of the thread back whatever a test does to it.
 class PosixFloatingPoint : public testing::Test {
@@ -193,6 +156,25 @@ TEST(PosixModules, CutsThePathOfTheProgram) {
     std::wstring path(program.size(), L'.');
     EXPECT_EQ(PX_Posix_Platform().GetModuleFileNameW(nullptr, path.data(), length), length);
     EXPECT_EQ(path.c_str(), program.substr(0, length - 1));
+}
+
+TEST(PosixText, WhatIsNoCharacterIsReplacedByteForByte) {
+    const struct {
+        const char* proves;
+        std::string bytes;
+        std::wstring text;
+    } rows[] = {
+        {"the first and the last of each length", "\x01\x7F\xC2\x80\xDF\xBF\xE0\xA0\x80\xEF\xBF\xBF",
+         L"\x01\x7F\x80\u07FF\u0800\xFFFF"},
+        {"four bytes", "\xF0\x90\x80\x80\xF4\x8F\xBF\xBF", L"\U00010000\U0010FFFF"},
+        {"above the last", "\xF4\x90\x80\x80\xF8", L"\xFFFD\xFFFD\xFFFD\xFFFD\xFFFD"},
+        {"too long for what it says", "\xC0\x80\xE0\x9F\xBF", L"\xFFFD\xFFFD\xFFFD\xFFFD\xFFFD"},
+        {"a surrogate", "\xED\xA0\x80", L"\xFFFD\xFFFD\xFFFD"},
+        {"a tail alone, a lead before a letter and at the end", "\x80\xC3x\xE2\x82",
+         L"\xFFFD\xFFFDx\xFFFD\xFFFD"},
+    };
+    for (const auto& row : rows)
+        EXPECT_EQ(px_from_utf8(row.bytes), row.text) << row.proves;
 }
 
 TEST(PosixFiles, OpensByWideNameOrTellsWhyNot) {

@@ -39,6 +39,12 @@ inline DWORD px_give_path(std::wstring_view path, wchar_t* copy, DWORD size) {
     return copied < path.size() ? size : static_cast<DWORD>(copied);
 }
 
+// The record of a version as it is here, or as Windows counts it.
+inline bool px_is_version_record(const OSVERSIONINFOW* version) {
+    return version &&
+           (version->dwOSVersionInfoSize == sizeof *version || version->dwOSVersionInfoSize == 276);
+}
+
 // The answer that ends the matter, for a box that nobody can answer.
 inline int px_ending_answer(UINT type) {
     switch (type & MB_TYPEMASK) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <cstring>
 #include <string>
@@ -27,21 +28,24 @@ public:
     }
 
     // `needed` gets the size of all in any case. What does not fit is a failure that writes nothing into
-    // the buffer and a count of 0. The buffer is aligned as memory from `new` is.
-    BOOL give(BYTE* buffer, DWORD size, DWORD* needed, DWORD* count) const {
+    // the buffer and a count of 0. The buffer is aligned as memory from `new` is. Where all needs less than
+    // `at_least` bytes, room is left before the texts.
+    BOOL give(BYTE* buffer, DWORD size, DWORD* needed, DWORD* count, DWORD at_least = 0) const {
         if (!needed || !count)
             return 0;
         const std::size_t records_size = m_records.size() * sizeof(Record);
-        std::size_t whole = records_size;
+        std::size_t texts_size = 0;
         for (const Text& text : m_texts)
-            whole += size_of(text);
+            texts_size += size_of(text);
+        const std::size_t padded = (at_least + alignof(Record) - 1) / alignof(Record) * alignof(Record);
+        const std::size_t whole = std::max(records_size + texts_size, padded);
         *needed = static_cast<DWORD>(whole);
         *count = 0;
         if (whole > size || (whole > 0 && !buffer))
             return 0;
 
         std::vector<Record> records = m_records;
-        BYTE* place = buffer + records_size;
+        BYTE* place = buffer + (whole - texts_size);
         for (const Text& text : m_texts) {
             std::memcpy(place, text.characters.c_str(), size_of(text));
             records[text.record].*text.field = reinterpret_cast<wchar_t*>(place);

@@ -6,7 +6,8 @@
 #include <string>
 #include <string_view>
 
-// Wide text to UTF-8. What is no character, a lone surrogate or a value above 0x10FFFF, becomes U+FFFD.
+// Wide text to UTF-8 and back. What is no character, a lone surrogate or a value above 0x10FFFF, becomes
+// U+FFFD.
 
 // Calls `put(char)` for every byte of the character.
 template <class Put>
@@ -42,6 +43,32 @@ std::string px_encode_utf8(std::basic_string_view<Character> text) {
 
 inline std::string px_to_utf8(std::wstring_view text) {
     return px_encode_utf8(text);
+}
+
+// Bytes that belong to no character become U+FFFD, each by itself.
+inline std::wstring px_from_utf8(std::string_view bytes) {
+    std::wstring text;
+    while (!bytes.empty()) {
+        const auto lead = static_cast<unsigned char>(bytes.front());
+        const std::size_t size = lead < 0x80 ? 1 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
+        char32_t c = size == 1 ? lead : lead & (0x7FU >> size);
+        std::size_t read = 1;
+        for (; read < size && read < bytes.size() && (bytes[read] & 0xC0) == 0x80; ++read)
+            c = c << 6 | static_cast<char32_t>(bytes[read] & 0x3F);
+        // Each length has a first character; what is below it, or begins with a tail, is no character.
+        constexpr char32_t firsts[] = {0, 0x80, 0x800, 0x10000};
+        const bool whole = read == size && lead < 0xF8 && (lead & 0xC0) != 0x80 && c >= firsts[size - 1] &&
+                           c <= 0x10FFFF && (c & 0xFFFFF800) != 0xD800;
+        bytes.remove_prefix(whole ? size : 1);
+        if (!whole)
+            c = 0xFFFD;
+        if (sizeof(wchar_t) == 2 && c > 0xFFFF) {
+            text += static_cast<wchar_t>(0xD7C0 + (c >> 10));
+            c = 0xDC00 + (c & 0x3FF);
+        }
+        text += static_cast<wchar_t>(c);
+    }
+    return text;
 }
 
 // WideCharToMultiByte of a machine whose code pages are all UTF-8. Nothing is written unless all of it fits,

@@ -3,10 +3,12 @@
 #include <memory>
 #include <mutex>
 #include <string>
+#include <vector>
 
 #include "toolkit/platform/platform.h"
 
 class PX_Posix_Files;
+struct PX_Print_Server;
 
 // A machine with dlopen, UTF-8 and a terminal.
 //
@@ -22,17 +24,26 @@ class PX_Posix_Files;
 // name is always a port's where the disposition is OPEN_EXISTING, and a file's where it is CREATE_ALWAYS. A
 // port belongs to one handle, in all processes; a file does for `share` 0 among programs that lock as we do.
 // Several threads may use the platform at a time, but not the same handle, except for PurgeComm.
+//
+// Printers: the queues of the machine's print server, which CUPS chooses; their jobs are raw. Every question
+// is bounded in time, except for looking up the name of a server: a second for a list, three for a printer or
+// the cancelling of a job, ten for a job to be made, for any 64 kB of it to be taken and for its end to be
+// confirmed. A queue that wants a password refuses; from the first use of a printer on, libcups asks for none
+// on that thread.
 class PX_EXPORT PX_Posix_Platform : public PX_Platform {
 public:
     // The descriptors stay the caller's.
     explicit PX_Posix_Platform(int answers_fd = 0, int questions_fd = 2);
-    // Closes what is open.
+    // Closes the files and ports that are open, and cancels the documents.
     ~PX_Posix_Platform() override;
 
     // Has the port of this name use the device from its next opening on, whether the machine has the port or
     // not: a pseudo terminal, or a path that stays with one adapter. A null or empty device takes that back.
     // False for a name that is not COM or LPT and a number.
     bool map_port(const wchar_t* name, const char* device);
+
+    // For printers that are opened from now on; null and 0 for what CUPS chooses.
+    void use_print_server(const char* host, int port);
 
     // What the last operation that failed had to say, such as "COM1: Device or resource busy"; empty before
     // the first. The text, cut at 255 characters, is good until the calling thread asks again.
@@ -91,30 +102,53 @@ public:
     // Level 2 only; the names have a colon, and LPT comes before COM.
     BOOL EnumPortsW(wchar_t* server, DWORD level, BYTE* records, DWORD size, DWORD* needed,
                     DWORD* count) override;
+    // Level 2. A queue whose device another machine serves is a connection and has that machine, as
+    // "\\host", for its server. A port is one that EnumPortsW tells, or else the URI of the device.
     BOOL EnumPrintersW(DWORD flags, wchar_t* name, DWORD level, BYTE* records, DWORD size, DWORD* needed,
                        DWORD* count) override;
+    // Level 3: the makes and models of the queues, each once.
     BOOL EnumPrinterDriversW(wchar_t* server, wchar_t* environment, DWORD level, BYTE* records, DWORD size,
                              DWORD* needed, DWORD* count) override;
+    // "queue", or "\\server\queue" for one of another server at the same port.
     BOOL OpenPrinterW(wchar_t* name, HANDLE* printer, PRINTER_DEFAULTSW* defaults) override;
+    // Asked where boxes are asked, by number; an empty line is no printer.
     HANDLE ConnectToPrinterDlg(HWND owner, DWORD flags) override;
+    // Ends a document that is open.
     BOOL ClosePrinter(HANDLE printer) override;
+    // The name of the document is cut at 255 bytes.
     DWORD StartDocPrinterW(HANDLE printer, DWORD level, BYTE* info) override;
     BOOL StartPagePrinter(HANDLE printer) override;
+    // All or nothing. After a failure, or a job that was cancelled, every further one fails at once.
     BOOL WritePrinter(HANDLE printer, void* bytes, DWORD size, DWORD* written) override;
+    // Always fails: a queue has no way back.
     BOOL ReadPrinter(HANDLE printer, void* bytes, DWORD size, DWORD* read) override;
     BOOL EndPagePrinter(HANDLE printer) override;
+    // A document without a byte is cancelled, and that is a success; so is the end of one that SetJobW has
+    // cancelled. One that the server did not take is cancelled, too, and is a failure.
     BOOL EndDocPrinter(HANDLE printer) override;
+    // Only to cancel a job, at level 0.
     BOOL SetJobW(HANDLE printer, DWORD job, DWORD level, BYTE* info, DWORD command) override;
+    // The version of the kernel, for a Windows of the NT kind.
     BOOL GetVersionExW(OSVERSIONINFOW* version) override;
 
     DWORD WNetGetConnectionW(const wchar_t* local_name, wchar_t* remote_name, DWORD* size) override;
 
 private:
+    struct Printer;
+
     void keep_error(std::wstring text);
+    template <class Operation>
+    auto attempt(Operation operation) -> decltype(operation());
+    std::shared_ptr<Printer> printer_of(HANDLE handle);
+    PX_Print_Server print_server();
 
     int m_answers_fd;
     int m_questions_fd;
     mutable std::mutex m_error_lock;
     std::wstring m_last_error;
     std::unique_ptr<PX_Posix_Files> m_files;
+    std::mutex m_printers_lock;
+    std::string m_print_host;
+    int m_print_port = 0;
+    std::vector<std::shared_ptr<Printer>> m_printers;
 };

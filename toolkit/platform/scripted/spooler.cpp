@@ -4,58 +4,18 @@
 #include <string_view>
 #include <utility>
 
+#include "toolkit/platform/record_buffer.h"
 #include "toolkit/platform/scripted/scripted_platform.h"
 
 namespace {
 constexpr DWORD more_data = 234;
-constexpr DWORD version_size_on_windows = 276;
 
-// The records of a list and their texts, laid out as the spooler does.
 template <class Record>
-class List {
-public:
-    Record& add() { return m_records.emplace_back(); }
-    // A text of the record added last. It is not copied.
-    void set(wchar_t* Record::*field, const std::optional<std::wstring>& text) {
-        if (text)
-            m_texts.push_back({m_records.size() - 1, field, *text});
-    }
-
-    BOOL put(BYTE* buffer, DWORD size, DWORD padding, DWORD* needed, DWORD* count) {
-        std::size_t texts_size = 0;
-        for (const Text& text : m_texts)
-            texts_size += size_of(text.characters);
-        const std::size_t records_size = m_records.size() * sizeof(Record);
-        const std::size_t padded = (padding + alignof(Record) - 1) / alignof(Record) * alignof(Record);
-        const std::size_t total = std::max(records_size + texts_size, padded);
-        *needed = static_cast<DWORD>(total);
-        if (size < total)
-            return 0;
-        std::size_t at = total - texts_size;
-        for (const Text& text : m_texts) {
-            const std::size_t text_size = size_of(text.characters);
-            std::memcpy(buffer + at, text.characters.c_str(), text_size);
-            m_records[text.record].*text.field = reinterpret_cast<wchar_t*>(buffer + at);
-            at += text_size;
-        }
-        if (!m_records.empty())
-            std::memcpy(buffer, m_records.data(), records_size);
-        *count = static_cast<DWORD>(m_records.size());
-        return 1;
-    }
-
-private:
-    struct Text {
-        std::size_t record;
-        wchar_t* Record::*field;
-        const std::wstring& characters;
-    };
-
-    static std::size_t size_of(const std::wstring& text) { return (text.size() + 1) * sizeof(wchar_t); }
-
-    std::vector<Record> m_records;
-    std::vector<Text> m_texts;
-};
+void set_text(PX_Record_Buffer<Record>& list, wchar_t* Record::*field,
+              const std::optional<std::wstring>& text) {
+    if (text)
+        list.set_text(field, *text);
+}
 
 std::wstring or_empty(const wchar_t* text) {
     return text ? text : L"";
@@ -99,12 +59,12 @@ BOOL PX_Scripted_Platform::EnumPortsW(wchar_t* server, DWORD level, BYTE* record
     const bool fails = must_fail(__func__, server, level, size);
     if (!begin_list(level == 2 && !server, records, size, needed, count) || fails)
         return 0;
-    List<PORT_INFO_2W> list;
+    PX_Record_Buffer<PORT_INFO_2W> list;
     for (const Port& port : m_ports) {
-        list.add();
-        list.set(&PORT_INFO_2W::pPortName, port.name);
+        list.add({});
+        set_text(list, &PORT_INFO_2W::pPortName, port.name);
     }
-    return list.put(records, size, m_padding, needed, count);
+    return list.give(records, size, needed, count, m_padding);
 }
 
 BOOL PX_Scripted_Platform::EnumPrintersW(DWORD flags, wchar_t* name, DWORD level, BYTE* records, DWORD size,
@@ -112,18 +72,18 @@ BOOL PX_Scripted_Platform::EnumPrintersW(DWORD flags, wchar_t* name, DWORD level
     const bool fails = must_fail(__func__, flags, name, level, size);
     if (!begin_list(level == 2 && !name, records, size, needed, count) || fails)
         return 0;
-    List<PRINTER_INFO_2W> list;
+    PX_Record_Buffer<PRINTER_INFO_2W> list;
     for (const Printer& printer : m_printers) {
         if (!(flags & (printer.server ? PRINTER_ENUM_CONNECTIONS : PRINTER_ENUM_LOCAL)))
             continue;
-        list.add().Attributes = printer.attributes;
-        list.set(&PRINTER_INFO_2W::pServerName, printer.server);
-        list.set(&PRINTER_INFO_2W::pPrinterName, printer.name);
-        list.set(&PRINTER_INFO_2W::pShareName, printer.share);
-        list.set(&PRINTER_INFO_2W::pPortName, printer.port);
-        list.set(&PRINTER_INFO_2W::pDriverName, printer.driver);
+        list.add({}).Attributes = printer.attributes;
+        set_text(list, &PRINTER_INFO_2W::pServerName, printer.server);
+        set_text(list, &PRINTER_INFO_2W::pPrinterName, printer.name);
+        set_text(list, &PRINTER_INFO_2W::pShareName, printer.share);
+        set_text(list, &PRINTER_INFO_2W::pPortName, printer.port);
+        set_text(list, &PRINTER_INFO_2W::pDriverName, printer.driver);
     }
-    return list.put(records, size, m_padding, needed, count);
+    return list.give(records, size, needed, count, m_padding);
 }
 
 BOOL PX_Scripted_Platform::EnumPrinterDriversW(wchar_t* server, wchar_t* environment, DWORD level,
@@ -131,13 +91,13 @@ BOOL PX_Scripted_Platform::EnumPrinterDriversW(wchar_t* server, wchar_t* environ
     const bool fails = must_fail(__func__, server, environment, level, size);
     if (!begin_list(level == 3 && !server && !environment, records, size, needed, count) || fails)
         return 0;
-    List<DRIVER_INFO_3W> list;
+    PX_Record_Buffer<DRIVER_INFO_3W> list;
     for (const Driver& driver : m_drivers) {
-        list.add().cVersion = 3;
-        list.set(&DRIVER_INFO_3W::pName, driver.name);
-        list.set(&DRIVER_INFO_3W::pMonitorName, driver.monitor);
+        list.add({}).cVersion = 3;
+        set_text(list, &DRIVER_INFO_3W::pName, driver.name);
+        set_text(list, &DRIVER_INFO_3W::pMonitorName, driver.monitor);
     }
-    return list.put(records, size, m_padding, needed, count);
+    return list.give(records, size, needed, count, m_padding);
 }
 
 HANDLE PX_Scripted_Platform::open_known_printer(const std::wstring& name) {
@@ -308,8 +268,7 @@ BOOL PX_Scripted_Platform::SetJobW(HANDLE printer, DWORD job, DWORD level, BYTE*
 BOOL PX_Scripted_Platform::GetVersionExW(OSVERSIONINFOW* version) {
     if (must_fail(__func__))
         return 0;
-    if (mark_misuse_if(!version || (version->dwOSVersionInfoSize != sizeof(OSVERSIONINFOW) &&
-                                    version->dwOSVersionInfoSize != version_size_on_windows)))
+    if (mark_misuse_if(!px_is_version_record(version)))
         return 0;
     version->dwMajorVersion = 4;
     version->dwMinorVersion = 0;

@@ -78,15 +78,19 @@ void px_store_list(PX_Smart_Pointer<List>& field, const List* list, const wchar_
     field = px_frame(function, [&] { return px_copied_list(list); });
 }
 
-// The same, but no memory is MVNK_Memory_Exception 1101.
+// The same, but no memory is MVNK_Memory_Exception 1101 with this detail, also where an element reports it.
 template <class List>
 void px_store_list(PX_Smart_Pointer<List>& field, const List* list, const wchar_t* function,
                    const wchar_t* detail, const wchar_t* file) {
     try {
         px_store_list(field, list, function);
+        return;
     } catch (const std::bad_alloc&) {
-        throw MVNK_Memory_Exception(PX_Code::No_Memory, function, detail, file);
+    } catch (const PX_Exception& passing) {
+        if (passing.m_code != PX_Code::No_Memory)
+            throw;
     }
+    throw MVNK_Memory_Exception(PX_Code::No_Memory, function, detail, file);
 }
 
 // The entry of that name; null when there is no list, no name or no such entry.

@@ -1,5 +1,6 @@
 #include <cstdint>
-#include <ranges>
+#include <iterator>
+#include <string>
 
 #include "toolkit/marvcon/std_io_cfg/datum.h"
 #include "toolkit/marvcon/std_io_cfg/protocol_name.h"
@@ -48,10 +49,10 @@ bool take_port_of_other_type(const PX_IO_Datum& datum) {
 // The widest framing, highest parity and longest stop that both sides offer; empty for none.
 std::wstring nearest_protocol(const PX_Smart_Pointer<PX_IO_Method>& method,
                               const PX_Smart_Pointer<PX_IO_Port>& port) {
-    for (const auto& bits : std::views::reverse(px_data_bits)) {
-        for (const auto& parity : std::views::reverse(px_parities)) {
-            for (const auto& stop : std::views::reverse(px_stop_bits)) {
-                std::wstring name = px_protocol_name(bits.text, parity.text, stop.text);
+    for (auto bits = std::rbegin(px_data_bits); bits != std::rend(px_data_bits); ++bits) {
+        for (auto parity = std::rbegin(px_parities); parity != std::rend(px_parities); ++parity) {
+            for (auto stop = std::rbegin(px_stop_bits); stop != std::rend(px_stop_bits); ++stop) {
+                std::wstring name = px_protocol_name(bits->text, parity->text, stop->text);
                 if (px_offers_protocol(method, name.c_str()) && px_offers_protocol(port, name.c_str()))
                     return name;
             }

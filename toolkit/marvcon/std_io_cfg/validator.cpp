@@ -153,10 +153,10 @@ void PX_Std_Plotter_IO_Validator::validate_portname_and_type(Strategy::Enum stra
                                PX_IO_Domain::file_tag);
             });
         const Type::Enum type = datum.configuration->get_type();
-        const bool is_local = type == Type::Serial || type == Type::Parallel;
+        const bool to_nearest =
+            strategy == Strategy::Use_Nearest && (type == Type::Serial || type == Type::Parallel);
         datum.repair(Change::Portname | Change::Type, [&] {
-            strategy == Strategy::Use_Nearest&& is_local ? set_portname_and_type_to_nearest()
-                                                         : set_portname_and_type_to_default();
+            to_nearest ? set_portname_and_type_to_nearest() : set_portname_and_type_to_default();
         });
     }
     datum.settle(Flag::IO_Config_Portname);

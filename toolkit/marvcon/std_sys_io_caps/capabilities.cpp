@@ -89,6 +89,16 @@ void add_port(Ports& ports, Fill fill) {
     }
 }
 
+// A list that the port cannot copy for want of memory is 1101 with this detail.
+template <class Store>
+void store_list(const wchar_t* detail, Store store) {
+    try {
+        store();
+    } catch (const MVNK_Memory_Exception&) {
+        throw MVNK_Memory_Exception(PX_Code::No_Memory, constructor, detail, file_tag);
+    }
+}
+
 // Lists what the enumeration gives. What it has no memory for is 1101 with this detail.
 template <class Record, class Enumerate>
 bool ask(PX_Spooler_Records<Record>& records, const wchar_t* function, const wchar_t* detail,
@@ -195,7 +205,7 @@ void PX_Std_System_IO_Capabilities::set_up_serial_port(PX_IO_Port& port) {
     PX_Smart_Pointer<PX_Named_Object_List<PX_Protocol>> protocols;
     px_store_made(protocols, new PX_Named_Object_List<PX_Protocol>, constructor, L"proto_list", file_tag);
     set_up_protocols(0, 0, 0, protocols, record);
-    port.set_protocol_list(protocols.get());
+    store_list(L"proto_list", [&] { port.set_protocol_list(protocols.get()); });
 
     PX_Smart_Pointer<PX_Object_List<PX_Baud_Rate>> rates;
     px_store_made(rates, new PX_Object_List<PX_Baud_Rate>, constructor, L"baud_list", file_tag);
@@ -210,7 +220,7 @@ void PX_Std_System_IO_Capabilities::set_up_serial_port(PX_IO_Port& port) {
         only->set_baud_rate(static_cast<long>(record.dwMaxBaud));
         rates->prepend(only);
     }
-    port.set_baud_rate_list(rates.get());
+    store_list(L"baud_list", [&] { port.set_baud_rate_list(rates.get()); });
 
     port.set_handshakes(handshakes_of(record));
     for (const Ability::Enum ability :

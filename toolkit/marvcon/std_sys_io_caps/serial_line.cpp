@@ -1,5 +1,6 @@
 #include <cwchar>
 #include <iterator>
+#include <new>
 #include <utility>
 
 #include "toolkit/core/error_resources.h"
@@ -15,6 +16,16 @@ namespace {
 // Failures carry the constructor's name.
 constexpr const wchar_t* constructor = L"PX_Std_System_IO_Capabilities::PX_Std_System_IO_Capabilities()";
 constexpr const wchar_t* file_tag = px_std_sys_io_caps_source.file_tag;
+
+// What there is no memory for within the call is 1101 with this detail.
+template <class Call>
+void report_no_memory(const wchar_t* detail, Call&& call) {
+    try {
+        call();
+    } catch (const std::bad_alloc&) {
+        throw MVNK_Memory_Exception(PX_Code::No_Memory, constructor, detail, file_tag);
+    }
+}
 
 bool is_taken(unsigned long mask, unsigned long fixed, unsigned long settable) {
     return ((fixed ? fixed : settable) & mask) != 0;
@@ -35,6 +46,20 @@ struct Localized_Letters {
     static constexpr int capacity = 11;
     wchar_t letters[std::size(px_parities)][capacity];
 };
+
+PX_Smart_Pointer<PX_Protocol> new_protocol(const PX_Line_Setting<PX_Data_Bits::Enum>& bits,
+                                           const PX_Line_Setting<PX_Parity::Enum>& parity,
+                                           const PX_Line_Setting<PX_Stop_Bits::Enum>& stop,
+                                           const wchar_t* localized_letter) {
+    PX_Smart_Pointer<PX_Protocol> protocol;
+    px_store_made<PX_Protocol>(protocol, new PX_Std_Protocol, constructor, L"new_proto", file_tag);
+    protocol->set_data_bits(bits.value);
+    protocol->set_parity(parity.value);
+    protocol->set_stop_bits(stop.value);
+    protocol->set_canonical_name(px_protocol_name(bits.text, parity.text, stop.text).c_str());
+    protocol->set_localized_name(px_protocol_name(bits.text, localized_letter, stop.text).c_str());
+    return protocol;
+}
 
 }  // namespace
 
@@ -92,34 +117,27 @@ void PX_Std_System_IO_Capabilities::add_b_rate(unsigned long mask, const COMMPRO
     PX_Smart_Pointer<PX_Baud_Rate> rate;
     px_store_made<PX_Baud_Rate>(rate, new PX_Std_Baud_Rate, constructor, L"new_baud", file_tag);
     rate->set_baud_rate(win_b_rate_to_long(mask));
-    list->prepend(std::move(rate));
+    report_no_memory(L"new_baud", [&] { list->prepend(std::move(rate)); });
 }
 
 void PX_Std_System_IO_Capabilities::set_up_protocols(unsigned long data_bits, unsigned long parity,
                                                      unsigned long stop_bits,
                                                      PX_Smart_Pointer<PX_Named_Object_List<PX_Protocol>> list,
                                                      const COMMPROP& record) {
-    const Localized_Letters localized;
-    for (const auto& bits : px_data_bits) {
-        if (!is_taken(bits.mask, data_bits, record.wSettableData))
-            continue;
-        for (const auto& check : px_parities) {
-            if (!is_taken(check.mask, parity, record.wSettableStopParity))
-                continue;
-            for (const auto& stop : px_stop_bits) {
-                if (!is_taken(stop.mask, stop_bits, record.wSettableStopParity))
-                    continue;
-                PX_Smart_Pointer<PX_Protocol> protocol;
-                px_store_made<PX_Protocol>(protocol, new PX_Std_Protocol, constructor, L"new_proto",
-                                           file_tag);
-                protocol->set_data_bits(bits.value);
-                protocol->set_parity(check.value);
-                protocol->set_stop_bits(stop.value);
-                protocol->set_canonical_name(px_protocol_name(bits.text, check.text, stop.text).c_str());
-                const wchar_t* const letter = localized.letters[check.value];
-                protocol->set_localized_name(px_protocol_name(bits.text, letter, stop.text).c_str());
-                list->prepend(std::move(protocol));
+    const auto is_wanted = [&](const auto& bits, const auto& check, const auto& stop) {
+        return is_taken(bits.mask, data_bits, record.wSettableData) &&
+               is_taken(check.mask, parity, record.wSettableStopParity) &&
+               is_taken(stop.mask, stop_bits, record.wSettableStopParity);
+    };
+    report_no_memory(L"new_proto", [&] {
+        const Localized_Letters localized;
+        for (const auto& bits : px_data_bits) {
+            for (const auto& check : px_parities) {
+                for (const auto& stop : px_stop_bits) {
+                    if (is_wanted(bits, check, stop))
+                        list->prepend(new_protocol(bits, check, stop, localized.letters[check.value]));
+                }
             }
         }
-    }
+    });
 }

@@ -1,7 +1,6 @@
 #include "toolkit/marvcon/std_plotter_io/buffer.h"
 
 #include <cassert>
-#include <cstring>
 #include <new>
 #include <utility>
 
@@ -45,17 +44,6 @@ bool PX_IO_Buffer::set_buffer_length(long length) {
     // Compared before it is brought into the range: a length that is not in it always gets a new buffer.
     if (length != m_buffer_length)
         allocate(permitted(length), L"PX_IO_Buffer::set_buffer_length");
-    return true;
-}
-
-bool PX_IO_Buffer::write_buffer(const char* bytes, long length) {
-    assert(length >= 0);
-    if (length > m_chars.get() + m_buffer_length - m_fill_position)
-        return false;
-    if (length > 0) {
-        std::memcpy(m_fill_position, bytes, static_cast<std::size_t>(length));
-        m_fill_position += length;
-    }
     return true;
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cassert>
+#include <cstring>
 #include <memory>
 
 #include "toolkit/marvcon/std_plotter_io/interface.h"
@@ -24,7 +26,16 @@ public:
     // without length.
     bool set_buffer_length(long length);
     // All or nothing: false when there is no room. `length` is not negative.
-    bool write_buffer(const char* bytes, long length);
+    bool write_buffer(const char* bytes, long length) {
+        assert(length >= 0);
+        if (length > m_chars.get() + m_buffer_length - m_fill_position)
+            return false;
+        if (length > 0) {
+            std::memcpy(m_fill_position, bytes, static_cast<std::size_t>(length));
+            m_fill_position += length;
+        }
+        return true;
+    }
     // At most as far as bytes are unsent.
     void advance_unsent_position(long length);
     // Of the unsent bytes.

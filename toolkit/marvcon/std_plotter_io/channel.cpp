@@ -1,8 +1,9 @@
 #include "toolkit/marvcon/std_plotter_io/channel.h"
 
+#include <algorithm>
 #include <atomic>
 #include <cassert>
-#include <iterator>
+#include <limits>
 #include <new>
 #include <string>
 #include <utility>
@@ -163,7 +164,8 @@ long PX_Std_Plotter_IO::read(char* buffer, unsigned long size) {
     if (m_aborted)
         return -1;
     auto& platform = PX_Get_Platform();
-    const auto wanted = static_cast<DWORD>(size);
+    const auto wanted =
+        static_cast<DWORD>(std::min<unsigned long long>(size, std::numeric_limits<DWORD>::max()));
     DWORD count = 0;
     const BOOL done = goes_to_queue() ? platform.ReadPrinter(m_device, buffer, wanted, &count)
                                       : platform.ReadFile(m_device, buffer, wanted, &count, nullptr);
@@ -272,8 +274,11 @@ void PX_Std_Plotter_IO::set_io_buffering(bool on) {
     m_io_buffering = on;
     if (!m_open)
         return;
-    if (!m_buffer)
+    if (on)
         return make_buffer(L"PX_Std_Plotter_IO::set_io_buffering");
+    // There is none if it could not be made.
+    if (!m_buffer)
+        return;
     // Since the flag is off already, bytes that are unsent here are never sent, and this does not return.
     assert(m_buffer->get_buffer_fill_size() == 0);
     if (m_buffer->get_buffer_fill_size() != 0)

@@ -36,9 +36,10 @@ public:
     // Of the print job. Null is the empty name.
     virtual void set_document_name(const wchar_t* name) = 0;
     // While open, bytes must not be waiting in the buffer when it is turned off: flush first. No memory for a
-    // buffer is MVNK_Error 1103.
+    // buffer is as in open.
     virtual void set_io_buffering(bool on) = 0;
-    // In bytes: below 1 is 4096, above 8192 is 8192. While open, the buffer is emptied first if it has to be.
+    // In bytes: below 1 is 4096, above 8192 is 8192. While open, the buffer is emptied first if it has to be;
+    // no memory for the new one is MVNK_Memory_Exception 1101, "m_chars", and writes then go out unbuffered.
     virtual void set_buffer_size(long size) = 0;
     // Whether the channel itself asks the user. Otherwise a write that fails returns at once, and what did
     // not fit into the buffer is dropped once that could be emptied. Opening and closing always ask.
@@ -46,9 +47,9 @@ public:
     // Puts a document name together; null is ignored.
     virtual void set_document_info(const PX_Document_Info* info) = 0;
 
-    // Whether a device is open. Not to be called while it is. MVNK_Error 1103 as PX_Exception when there is
-    // no memory for the buffer, or no error handler; the device is then open. 1101, "pinfo" or "new_port",
-    // when there is none to look for a port's printer.
+    // Whether a device is open. Not to be called while it is. No memory for the buffer is MVNK_Error 1103, or
+    // for what it holds 1101, "m_chars", and no error handler is 1103; the device is then open. No memory to
+    // look for a port's printer is 1101, "pinfo" or "new_port". All but the first come as PX_Exception.
     virtual bool open() = 0;
     // Empties the buffer, asking the user as long as bytes are left. False when a step of closing failed; the
     // channel is closed all the same. True when it was not open.

@@ -7,6 +7,7 @@
 #include <signal.h>
 #include <sys/file.h>
 #include <sys/ioctl.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -89,11 +90,6 @@ private:
     sigset_t m_ours;
     sigset_t m_before;
 };
-
-ssize_t write_some(int fd, const char* bytes, std::size_t size) {
-    const Write_Signals kept_off;
-    return write(fd, bytes, size);
-}
 
 bool is_for_later(int error) {
     return error == EAGAIN || error == EINTR;
@@ -183,7 +179,7 @@ std::shared_ptr<PX_Open_File> PX_Open_File::of_path(const std::wstring& path, DW
     // Opening must not wait for a reader of a pipe or for a carrier; a file has no time-outs, though.
     if (fcntl(descriptor.get(), F_SETFL, flags) != 0)
         px_fail();
-    return std::make_shared<PX_Open_File>(std::move(descriptor), path);
+    return std::make_shared<PX_Open_File>(std::move(descriptor), path, status.st_mode & S_IFMT);
 }
 
 std::shared_ptr<PX_Open_File> PX_Open_File::of_port(PX_Port_Name port, const std::string& device,
@@ -194,8 +190,8 @@ std::shared_ptr<PX_Open_File> PX_Open_File::of_port(PX_Port_Name port, const std
     return std::make_shared<PX_Open_File>(std::move(descriptor), port);
 }
 
-PX_Open_File::PX_Open_File(PX_Descriptor descriptor, std::wstring name)
-    : m_descriptor(std::move(descriptor)), m_name(std::move(name)), m_is_port(false) {
+PX_Open_File::PX_Open_File(PX_Descriptor descriptor, std::wstring name, mode_t kind)
+    : m_descriptor(std::move(descriptor)), m_name(std::move(name)), m_is_port(false), m_kind(kind) {
 }
 
 PX_Open_File::PX_Open_File(PX_Descriptor descriptor, PX_Port_Name port)
@@ -227,14 +223,36 @@ void PX_Open_File::read(void* bytes, DWORD size, DWORD& done) {
     }
 }
 
+// A device sends none of the signals, and a file only the one for its size, where that is limited. To keep
+// them off, and even to ask for the limit, costs a good part of a small write: it is asked for with the first
+// one, and then every once in a while.
+bool PX_Open_File::may_be_signalled(std::size_t size) {
+    constexpr std::size_t a_while = 256 * 1024;
+    if (m_kind != S_IFREG)
+        return m_kind != S_IFCHR;
+    if (m_bytes_until_asked < size) {
+        rlimit limit{};
+        m_is_limited = getrlimit(RLIMIT_FSIZE, &limit) != 0 || limit.rlim_cur != RLIM_INFINITY;
+        m_bytes_until_asked = a_while;
+    }
+    m_bytes_until_asked -= std::min(m_bytes_until_asked, size);
+    return m_is_limited;
+}
+
+ssize_t PX_Open_File::write_some(const char* bytes, std::size_t size) {
+    if (!may_be_signalled(size))
+        return ::write(m_descriptor.get(), bytes, size);
+    const Write_Signals kept_off;
+    return ::write(m_descriptor.get(), bytes, size);
+}
+
 void PX_Open_File::write(const void* bytes, DWORD size, DWORD& done) {
     const std::uint64_t time =
         total_time(m_timeouts.WriteTotalTimeoutConstant, m_timeouts.WriteTotalTimeoutMultiplier, size);
     m_send_time = time;
     const PX_Time_Limit limit(time);
     for (bool stalled = false; done < size;) {
-        const ssize_t put =
-            write_some(m_descriptor.get(), static_cast<const char*>(bytes) + done, size - done);
+        const ssize_t put = write_some(static_cast<const char*>(bytes) + done, size - done);
         if (put > 0) {
             done += static_cast<DWORD>(put);
             stalled = false;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <sys/types.h>
+
 #include <chrono>
 #include <cstdint>
 #include <memory>
@@ -49,7 +51,8 @@ public:
     // Always for this handle alone.
     static std::shared_ptr<PX_Open_File> of_port(PX_Port_Name port, const std::string& device, DWORD access);
 
-    PX_Open_File(PX_Descriptor descriptor, std::wstring name);
+    // `kind` is what the mode of the file says, such as S_IFREG.
+    PX_Open_File(PX_Descriptor descriptor, std::wstring name, mode_t kind);
     PX_Open_File(PX_Descriptor descriptor, PX_Port_Name port);
     PX_Open_File(const PX_Open_File&) = delete;
     PX_Open_File& operator=(const PX_Open_File&) = delete;
@@ -74,12 +77,18 @@ public:
 private:
     PX_Serial_Line& line();
     DWORD printer_errors() const;
+    bool may_be_signalled(std::size_t size);
+    ssize_t write_some(const char* bytes, std::size_t size);
     bool send_rest();
     void await(short event, int milliseconds) const;
 
     PX_Descriptor m_descriptor;
     std::wstring m_name;
     bool m_is_port;
+    mode_t m_kind = 0;  // of a file
+    // Whether a file's size is, as far as is known.
+    bool m_is_limited = false;
+    std::size_t m_bytes_until_asked = 0;
     std::unique_ptr<PX_Serial_Line> m_line;
     COMMTIMEOUTS m_timeouts{};
     DWORD m_events = 0;

@@ -52,7 +52,7 @@ run() {
     "$build/bin/plot_host" "$@"
 }
 
-need_packages cmake g++ libcli11-dev libcups2-dev ninja-build nlohmann-json3-dev
+need_packages cmake g++ libcli11-dev libcups2-dev ninja-build nlohmann-json3-dev libpugixml-dev
 echo "Building plot_host"
 mkdir -p "$work"
 if ! { cmake --preset release -B "$build" -DMARVCON_WARNINGS_AS_ERRORS=OFF -DBUILD_TESTING=OFF &&
@@ -92,3 +92,35 @@ draw wide_format "$device"
 echo
 echo "=== The same on the roll-fed device"
 draw roll "$roll"
+
+echo
+echo "=== A drawing goes to a pen plotter that writes to a file"
+plan=examples/data/floor_plan.svg
+plot=$build/floor_plan.plt
+plot_to() {
+    # The report is known by now.
+    run --drawing "$plan" --device "$@" >"$work/report"
+    sed -n -e '1,2p' -e '$p' "$work/report"
+}
+first_lines() {
+    head -n 8 "$1" | cat -v
+    echo "..."
+}
+plot_to pen-plotter --to "file:$plot"
+first_lines "$plot"
+
+echo
+echo "=== The same to a port, behind which a pipe stands for the device"
+pipe=$work/pipe
+rm -f "$pipe"
+mkfifo "$pipe"
+cat "$pipe" >"$work/from_port.plt" &
+reader=$!
+plot_to pen-plotter --to port:LPT1 --map-port "LPT1=$pipe"
+wait "$reader"
+cmp "$plot" "$work/from_port.plt" && echo "The port got the bytes that the file has."
+
+echo
+echo "=== And as PostScript on the wide-format device"
+plot_to "$device" --to "file:$build/floor_plan.ps"
+first_lines "$build/floor_plan.ps"

@@ -2,10 +2,12 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
+#include <charconv>
 #include <filesystem>
 #include <iterator>
 #include <stdexcept>
 #include <string>
+#include <string_view>
 #include <system_error>
 #include <utility>
 #include <vector>
@@ -64,32 +66,59 @@ bool is_one_file(const fs::path& one, const fs::path& other) {
 
 // What is written to would be lost to the other. Only a choice may be saved where it was opened.
 void refuse_one_file_for_two(const Arguments& arguments) {
-    const std::pair<const char*, const fs::path&> files[] = {{"--device", arguments.device},
-                                                             {"--choice", arguments.choice},
-                                                             {"--save", arguments.save},
-                                                             {"--picture", arguments.picture},
-                                                             {"--log", arguments.log}};
-    for (const auto& [option, file] : files) {
-        for (const auto& [former, former_file] : files) {
-            if (&former_file == &file)
+    const bool to_file = arguments.to && arguments.to->kind == Destination::Kind::File;
+    const struct {
+        const char* option;
+        fs::path file;
+        bool is_read = false;
+    } files[] = {{"--device", arguments.device, true},
+                 {"--choice", arguments.choice, true},
+                 {"--drawing", arguments.drawing, true},
+                 {"--save", arguments.save},
+                 {"--picture", arguments.picture},
+                 {"--log", arguments.log},
+                 {"--to", to_file ? fs::path(arguments.to->name) : fs::path()}};
+    for (const auto& later : files) {
+        for (const auto& former : files) {
+            if (&former == &later)
                 break;
-            const bool reads_both = &file == &arguments.choice;
-            const bool saves_in_place = &file == &arguments.save && &former_file == &arguments.choice;
-            if (!file.empty() && !former_file.empty() && !reads_both && !saves_in_place &&
-                is_one_file(former_file, file))
-                throw std::runtime_error(std::string(former) + " and " + option + " name one file, '" +
-                                         file.string() + "'");
+            const bool reads_both = former.is_read && later.is_read;
+            const bool saves_in_place =
+                later.option == std::string_view("--save") && former.option == std::string_view("--choice");
+            if (!later.file.empty() && !former.file.empty() && !reads_both && !saves_in_place &&
+                is_one_file(former.file, later.file))
+                throw std::runtime_error(std::string(former.option) + " and " + later.option +
+                                         " name one file, '" + later.file.string() + "'");
         }
     }
+}
+
+// The two sides of a sign.
+std::pair<std::string, std::string> parted(const char* option, const std::string& words, std::size_t sign) {
+    if (sign == std::string::npos || sign == 0 || sign + 1 == words.size())
+        throw std::runtime_error(std::string(option) + " cannot be '" + words + "'");
+    return {words.substr(0, sign), words.substr(sign + 1)};
+}
+
+std::pair<std::string, int> print_server_of(const std::string& words) {
+    const auto [host, port] = parted("--print-server", words, words.rfind(':'));
+    int number = 0;
+    const char* const end = port.data() + port.size();
+    const auto [stop, failure] = std::from_chars(port.data(), end, number);
+    if (failure != std::errc() || stop != end || number < 1 || number > 65535)
+        throw std::runtime_error("--print-server has no port in '" + words + "'");
+    return {host, number};
 }
 
 }  // namespace
 
 std::optional<Arguments> parse_arguments(int count, const char* const* words, std::ostream& out) {
     Arguments arguments;
-    CLI::App app("Opens a device, brings a saved choice in line with it, and tells what was changed.",
-                 "plot_host");
-    app.add_option("--device", arguments.device, "PostScript printer description of the device")
+    CLI::App app(
+        "Opens a device, brings a saved choice in line with it, tells what was changed, and plots a drawing.",
+        "plot_host");
+    app.add_option("--device", arguments.device,
+                   "PostScript printer description of the device, or pen-plotter")
         ->required()
         ->type_name("FILE");
     app.add_option("--choice", arguments.choice, "saved choice to open; the device's defaults without it")
@@ -103,12 +132,31 @@ std::optional<Arguments> parse_arguments(int count, const char* const* words, st
     add_choice_of(app, "--policy", policies, arguments.policy, "how much of the choice is looked at");
     app.add_flag("--fixed-settables", arguments.fixed_settables,
                  "put the data that the user may set to their defaults instead of validating them");
+    const auto add_words = [&app](const char* option, const char* kind, const char* description, auto store) {
+        return app.add_option_function<std::string>(option, store, description)->type_name(kind);
+    };
+    auto* const to = add_words("--to", "WHERE", "send a plot to file:PATH, port:NAME or queue:NAME",
+                               [&](const std::string& words) { arguments.to = destination_of(words); });
+    auto* const drawing = app.add_option("--drawing", arguments.drawing, "SVG drawing of lines to plot");
+    drawing->type_name("FILE")->needs(to);
+    to->needs(drawing);
+    app.add_flag("--any-destination", arguments.any_destination,
+                 "send the plot also where the choice was put because it could not go where it was to")
+        ->needs(to);
+    std::vector<std::string> ports;
+    app.add_option("--map-port", ports, "device that a port stands for, as COM1=/dev/ttyUSB0")
+        ->type_name("NAME=DEVICE");
+    add_words("--print-server", "HOST:PORT", "where the queues are, if not on the usual server",
+              [&](const std::string& words) { arguments.print_server = print_server_of(words); });
     app.add_option("--log", arguments.log, "file that failures are written to")->type_name("FILE");
     try {
         app.parse(count, words);
     } catch (const CLI::CallForHelp&) {
         out << app.help();
         return std::nullopt;
+    }
+    for (const std::string& words : ports) {
+        arguments.mapped_ports.push_back(parted("--map-port", words, words.find('=')));
     }
     refuse_one_file_for_two(arguments);
     return arguments;

@@ -3,7 +3,11 @@
 #include <filesystem>
 #include <optional>
 #include <ostream>
+#include <string>
+#include <utility>
+#include <vector>
 
+#include "examples/plot_host/destination.h"
 #include "toolkit/marvcon/marvcon.h"
 
 namespace plot_host {
@@ -15,6 +19,12 @@ struct Arguments {
     std::filesystem::path save;
     std::filesystem::path picture;
     std::filesystem::path log;
+    std::optional<Destination> to;
+    std::filesystem::path drawing;
+    // Names of ports and the devices that they stand for.
+    std::vector<std::pair<std::string, std::string>> mapped_ports;
+    std::optional<std::pair<std::string, int>> print_server;
+    bool any_destination = false;
     PX_Validation_Strategy::Enum strategy = PX_Validation_Strategy::Use_Nearest;
     PX_Validation_Policy::Enum policy = PX_Validation_Policy::Validate_Conditional;
     bool fixed_settables = false;

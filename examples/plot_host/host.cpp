@@ -9,10 +9,13 @@
 #include "examples/common/text.h"
 #include "examples/plot_host/arguments.h"
 #include "examples/plot_host/configuration.h"
+#include "examples/plot_host/destination.h"
 #include "examples/plot_host/host_error_handler.h"
+#include "examples/plot_host/host_platform.h"
 #include "examples/plot_host/picture.h"
 #include "examples/plot_host/report.h"
 #include "examples/plot_host/saved_choice.h"
+#include "examples/plot_host/sending.h"
 
 namespace plot_host {
 namespace {
@@ -31,8 +34,8 @@ Saved_Device identity_of(const PX_Plotter_Definition& device) {
             text::to_utf8(meta->get_model()->get_canonical_name())};
 }
 
-PX_Smart_Pointer<PX_Error_Handler> make_handler(const std::filesystem::path& log, std::ostream& err) {
-    PX_Smart_Pointer<PX_Error_Handler> handler(new Host_Error_Handler(err));
+PX_Smart_Pointer<Host_Error_Handler> make_handler(const std::filesystem::path& log, std::ostream& err) {
+    PX_Smart_Pointer<Host_Error_Handler> handler(new Host_Error_Handler(err));
     if (!log.empty()) {
         // The handler says nothing of a log that it cannot open.
         if (!std::ofstream(log, std::ios::app))
@@ -44,12 +47,25 @@ PX_Smart_Pointer<PX_Error_Handler> make_handler(const std::filesystem::path& log
     return handler;
 }
 
-// A driver that opens a pipe would wait for somebody to write.
-void refuse_what_is_no_file(const std::filesystem::path& device) {
+// Only the ports of the machine itself are looked for once; what is mapped has to be there before.
+void set_up(Host_Platform& platform, const Arguments& arguments) {
+    for (const auto& [name, mapped] : arguments.mapped_ports) {
+        if (!platform.map_port(text::from_utf8(name).c_str(), mapped.c_str()))
+            throw std::runtime_error("'" + name + "' is no port that can be mapped, such as COM1 or LPT2");
+    }
+    if (arguments.print_server)
+        platform.use_print_server(arguments.print_server->first.c_str(), arguments.print_server->second);
+}
+
+// A driver that opens a pipe would wait for somebody to write, and a plot to one for somebody to read.
+void refuse_what_is_no_file(const Arguments& arguments) {
     std::error_code ignored;
-    const auto status = std::filesystem::status(device, ignored);
-    if (std::filesystem::is_other(status))
-        throw std::runtime_error("the device '" + device.string() + "' is not a regular file");
+    const auto device = std::filesystem::status(arguments.device, ignored);
+    if (std::filesystem::is_other(device))
+        throw std::runtime_error("the device '" + arguments.device.string() + "' is not a regular file");
+    const bool to_file = arguments.to && arguments.to->kind == Destination::Kind::File;
+    if (to_file && std::filesystem::is_fifo(arguments.to->name, ignored))
+        throw std::runtime_error("'" + arguments.to->name + "' is a pipe; map a port to it");
 }
 
 void print_heading(std::ostream& out, const PX_Plotter_Definition& device,
@@ -68,13 +84,18 @@ void print_heading(std::ostream& out, const PX_Plotter_Definition& device,
 
 void reconcile(const Arguments& arguments, PX_Plotter_Definition& device, std::ostream& out) {
     const auto configuration = new_configuration(device);
-    std::optional<Saved_Device> made_on;
-    if (!arguments.choice.empty())
-        made_on = load_choice(arguments.choice, *configuration);
     device.set_plotter_configuration(configuration.get());
     const auto validator = device.get_plotter_validator();
-    if (!made_on)
+    std::optional<Saved_Device> made_on;
+    if (arguments.choice.empty()) {
         validator->set_all_to_defaults();
+    } else {
+        // An older choice does not say where its plots go.
+        validator->set_selected_to_defaults(PX_Domain_Mask::IO);
+        made_on = load_choice(arguments.choice, *configuration);
+    }
+    if (arguments.to)
+        choose_destination(device, *arguments.to);
 
     const Snapshot before = take_snapshot(*configuration);
     const Sheet sheet_before =
@@ -91,22 +112,55 @@ void reconcile(const Arguments& arguments, PX_Plotter_Definition& device, std::o
         save_choice(arguments.save, identity_of(device), *configuration);
 }
 
+// Also the report: it is what the user reads first.
+void finish(std::ostream& out) {
+    out.flush();
+    if (!out)
+        throw std::runtime_error("the report cannot be written");
+}
+
+Exit_Code plot(const Arguments& arguments, const Drawing& drawing, const Driver& driver,
+               PX_Plotter_Definition& device, const PX_Smart_Pointer<Host_Error_Handler>& handler,
+               Host_Platform& platform, std::ostream& out, std::ostream& err, User user) {
+    const Destination destination = settle_destination(device, *arguments.to, arguments.drawing);
+    if (destination != *arguments.to) {
+        err << "plot_host: " << shown(*arguments.to) << " cannot be used; the choice goes to "
+            << shown(destination) << " instead"
+            << (arguments.any_destination ? "" : ", where nothing was sent") << '\n';
+        if (!arguments.any_destination)
+            return Other_Destination;
+    }
+    out << '\n';
+    finish(out);
+    return send_plot({drawing, arguments.drawing, destination, user}, driver, device, handler, platform, out,
+                     err);
+}
+
 }  // namespace
 
-Exit_Code run(int count, const char* const* words, const Open_Device& open_device, std::ostream& out,
-              std::ostream& err) {
-    PX_Smart_Pointer<PX_Error_Handler> handler;
+Exit_Code run(int count, const char* const* words, const Find_Driver& find_driver, std::ostream& out,
+              std::ostream& err, User user) {
+    Host_Platform platform;
+    const Use_Host_Platform use(platform);
+    PX_Smart_Pointer<Host_Error_Handler> handler;
     try {
         const std::optional<Arguments> arguments = parse_arguments(count, words, out);
+        Exit_Code code = Done;
         if (arguments) {
             handler = make_handler(arguments->log, err);
-            refuse_what_is_no_file(arguments->device);
-            reconcile(*arguments, *open_device(arguments->device, handler), out);
+            refuse_what_is_no_file(*arguments);
+            set_up(platform, *arguments);
+            std::optional<Drawing> drawing;
+            if (arguments->to)
+                drawing = read_drawing(arguments->drawing);
+            const Driver& driver = find_driver(arguments->device);
+            const auto device = driver.open(arguments->device, handler.get());
+            reconcile(*arguments, *device, out);
+            if (drawing)
+                code = plot(*arguments, *drawing, driver, *device, handler, platform, out, err, user);
         }
-        out.flush();
-        if (!out)
-            throw std::runtime_error("the report cannot be written");
-        return Done;
+        finish(out);
+        return code;
     } catch (PX_Exception& failure) {
         px_report_by_kind(*handler, failure);
         return Toolkit_Failed;

@@ -4,23 +4,31 @@
 #include <functional>
 #include <ostream>
 
+#include "examples/common/driver.h"
 #include "toolkit/marvcon/marvcon.h"
 
 namespace plot_host {
 
-// A driver's way to open a device. It throws std::runtime_error, one line for the user, for a file that
-// cannot be used, and leaves a device without a configuration.
-using Open_Device = std::function<PX_Smart_Pointer<PX_Plotter_Definition>(
-    const std::filesystem::path& description, PX_Smart_Pointer<PX_Error_Handler> handler)>;
+// The driver of a device, by what the command line calls it; it outlives the run.
+using Find_Driver = std::function<const Driver&(const std::filesystem::path& device)>;
+
+// Who sits before the program.
+struct User {
+    bool can_answer = false;  // abort, retry or ignore
+    bool sees_progress = false;
+};
 
 // The exit codes of the program.
 enum Exit_Code : int {
     Done = 0,
     Toolkit_Failed = 1,
-    Bad_Input = 2,  // with exactly one line on `err`
+    Bad_Input = 2,          // with exactly one line on `err`
+    Not_Sent = 3,           // the plot was aborted or could not be sent
+    Other_Destination = 4,  // the plot could not go where it was to, and was not sent
+    Interrupted = 130,
 };
 
-Exit_Code run(int count, const char* const* words, const Open_Device& open_device, std::ostream& out,
-              std::ostream& err);
+Exit_Code run(int count, const char* const* words, const Find_Driver& find_driver, std::ostream& out,
+              std::ostream& err, User user = {});
 
 }  // namespace plot_host

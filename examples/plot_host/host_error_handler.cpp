@@ -1,5 +1,7 @@
 #include "examples/plot_host/host_error_handler.h"
 
+#include <string>
+
 #include "examples/common/text.h"
 
 namespace plot_host {
@@ -7,6 +9,47 @@ namespace plot_host {
 Host_Error_Handler::Host_Error_Handler(std::ostream& err) : m_err(err) {
     // A quiet handler logs instead of asking.
     Std_Error_Handler::set_quiet_mode(true);
+}
+
+void Host_Error_Handler::begin_sending(Host_Platform& platform, bool asks) {
+    m_sending = &platform;
+    Std_Error_Handler::set_quiet_mode(!asks);
+}
+
+int Host_Error_Handler::message_box(const wchar_t* text, const wchar_t* caption, unsigned int type,
+                                    int default_result) {
+    const wchar_t* const title = caption ? caption : get_ARI_error_caption();
+    if (!m_sending || (type & MB_TYPEMASK) != MB_ABORTRETRYIGNORE)
+        return Std_Error_Handler::message_box(text, title, type, default_result);
+    if (m_sending->is_stopped())
+        return IDABORT;
+    PX_String question = text;
+    if (const std::wstring& reason = m_sending->write_failure(); !reason.empty())
+        question += PX_String((L" (" + reason + L")").c_str());
+    int answer = IDABORT;
+    if (get_quiet_mode()) {
+        LogMessage(title, question);
+    } else {
+        m_err << std::endl;  // off the line of the progress
+        answer = Std_Error_Handler::message_box(question, title, type, default_result);
+    }
+    if (answer == IDABORT)
+        m_sending->stop();
+    return answer;
+}
+
+PX_Error_Handler::PX_Error_Result Host_Error_Handler::ARI_error(unsigned long long module, unsigned int code,
+                                                                const wchar_t* function,
+                                                                const wchar_t* detail, const wchar_t* file) {
+    if (m_sending && m_sending->is_stopped())
+        return Result_Abort;
+    if (m_sending && !get_quiet_mode())
+        m_err << std::endl;
+    const PX_Error_Result answer = Std_Error_Handler::ARI_error(module, code, function, detail, file);
+    if (!m_sending || (answer != Result_Abort && !get_quiet_mode()))
+        return answer;
+    m_sending->stop();
+    return Result_Abort;
 }
 
 void Host_Error_Handler::LogMessage(const wchar_t* caption, const wchar_t* text) {

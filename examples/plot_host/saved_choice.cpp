@@ -13,6 +13,7 @@
 #include "examples/common/text.h"
 #include "examples/plot_host/saved_field.h"
 #include "examples/plot_host/saved_media.h"
+#include "examples/plot_host/saved_output.h"
 
 namespace plot_host {
 namespace {
@@ -63,6 +64,7 @@ struct Domain {
 
 constexpr Domain domains[] = {
     {"media", read_saved_media, write_saved_media},
+    {"output", read_saved_output, write_saved_output},
     {"init_term", read_init_term, write_init_term},
 };
 

@@ -22,6 +22,11 @@ struct Saved_Device {
 //             "margins": { "x_min": 12.0, "x_max": 582.0, "y_min": 12.0, "y_max": 829.0 },
 //             "snapshot": { "media_bounds": { "x": 595.0, "y": 842.0 }, ... }
 //         },
+//         "output": {
+//             "port": "COM1", "type": "serial", "protocol": "8N1", "baud_rate": 9600, "handshake": 2,
+//             "input_timeout": 60000, "output_timeout": 60000, "pathname": "", "plot_to_file": false,
+//             "all_system_ports_valid": false
+//         },
 //         "init_term": {
 //             "preinit_string": "\u001b...",
 //             "postinit_string": "",
@@ -29,9 +34,11 @@ struct Saved_Device {
 //         }
 //     }
 //
-// A device string is a text of the characters U+0000 to U+00FF, a byte each; null is a string that was taken
-// away. The snapshot is what the named choices were like; without it, a name stands for nothing that could be
-// compared. A domain or a datum that is not named keeps what the configuration holds.
+// The type of the port is one of the words of output_words.cpp, time-outs are milliseconds, the handshake has
+// the bits of PX_Handshake. A device string is a text of the characters U+0000 to U+00FF, a byte each; null
+// is a string that was taken away. The snapshot is what the named choices were like; without it, a name
+// stands for nothing that could be compared. A domain or a datum that is not named keeps what the
+// configuration holds.
 //
 // Both throw std::runtime_error with one line for the user, which names the field that is at fault.
 Saved_Device load_choice(const std::filesystem::path& path, const PX_Plotter_Configuration& into);

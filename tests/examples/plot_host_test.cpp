@@ -12,6 +12,7 @@
 
 #include "examples/common/text.h"
 #include "examples/drivers/ppd/definition.h"
+#include "examples/drivers/ppd/driver.h"
 #include "examples/drivers/ppd/media.h"
 #include "examples/plot_host/configuration.h"
 #include "examples/plot_host/host_error_handler.h"
@@ -27,6 +28,7 @@ using Strategy = PX_Validation_Strategy;
 using Policy = PX_Validation_Policy;
 
 const std::string sample = EXAMPLE_DATA "/sample_plotter.ppd";
+const std::string plan = EXAMPLE_DATA "/floor_plan.svg";
 const std::string office_choice = EXAMPLE_DATA "/office_choice.json";
 
 struct Outcome {
@@ -35,13 +37,13 @@ struct Outcome {
     std::string err;
 };
 
-Outcome run_host(const std::vector<std::string>& arguments,
-                 const plot_host::Open_Device& open_device = open_ppd_device) {
+Outcome run_host(const std::vector<std::string>& arguments, const Driver& driver = Ppd_Driver()) {
     std::vector<const char*> words = {"plot_host"};
     for (const std::string& argument : arguments)
         words.push_back(argument.c_str());
     std::ostringstream out, err;
-    const int code = plot_host::run(static_cast<int>(words.size()), words.data(), open_device, out, err);
+    const auto find_driver = [&](const std::filesystem::path&) -> const Driver& { return driver; };
+    const int code = plot_host::run(static_cast<int>(words.size()), words.data(), find_driver, out, err);
     return {code, out.str(), err.str()};
 }
 
@@ -149,6 +151,23 @@ TEST_F(Plot_Host, BadInputGetsOneClearLineAndCode2) {
         {json("snapshot.json", R"({"device":{"model":"D"},"media":{"snapshot":{"dimensional":1}}})"),
          "'media.snapshot.dimensional', must be true or false"},
 
+        {json("wire.json", R"({"device":{"model":"D"},"output":{"type":"wire"}})"),
+         "'output.type', names no kind of connection"},
+        {json("rate.json", R"({"device":{"model":"D"},"output":{"baud_rate":"9600"}})"),
+         "'output.baud_rate', must be a whole number"},
+
+        {{"--device", sample, "--to", "file:x"}, "--drawing"},
+        {{"--device", sample, "--drawing", plan}, "--to"},
+        {{"--device", sample, "--drawing", plan, "--to", "COM1"}, "--to takes file:PATH"},
+        {{"--device", sample, "--drawing", here, "--to", "file:x"},
+         "nothing_here' cannot be opened: No such"},
+        {{"--device", sample, "--drawing", sample, "--to", "file:x"}, "the drawing '"},
+        {{"--device", sample, "--drawing", plan, "--to", "file:" + plan}, "--drawing and --to name one file"},
+        {{"--device", sample, "--drawing", plan, "--to", "file:" + pipe}, "pipe' is a pipe"},
+        {{"--device", sample, "--map-port", "COM1"}, "--map-port cannot be 'COM1'"},
+        {{"--device", sample, "--map-port", "PLOT=/dev/null"}, "'PLOT' is no port"},
+        {{"--device", sample, "--print-server", "here:many"}, "--print-server has no port"},
+
         {json("twice.json", R"({"device":{"model":"D"},"media":{"margins":{},"copies":1,"copies":2}})"),
          "'media.copies', is given twice"},
         {json("zero.json", R"({"device":{"model":"D"},"media":{"size":"A4\u0000x"}})"),
@@ -175,13 +194,16 @@ TEST_F(Plot_Host, BadInputGetsOneClearLineAndCode2) {
 }
 
 TEST_F(Plot_Host, ToolkitFailureGetsItsTextItsTraceAndCode1) {
-    const auto open_bad_device = [](const auto& file, auto handler) {
-        auto device = open_ppd_device(file, std::move(handler));
-        device->get_plotter_capabilities()->get_init_term_capabilities()->set_one_ability(
-            PX_Ability_Value::Ability_Undefined, Flag::Termination_String);
-        return device;
-    };
-    const Outcome outcome = run_host({"--device", sample, "--log", path("log")}, open_bad_device);
+    struct : Ppd_Driver {
+        PX_Smart_Pointer<PX_Plotter_Definition> open(
+            const std::filesystem::path& file, PX_Smart_Pointer<PX_Error_Handler> handler) const override {
+            auto device = Ppd_Driver::open(file, std::move(handler));
+            device->get_plotter_capabilities()->get_init_term_capabilities()->set_one_ability(
+                PX_Ability_Value::Ability_Undefined, Flag::Termination_String);
+            return device;
+        }
+    } bad_device;
+    const Outcome outcome = run_host({"--device", sample, "--log", path("log")}, bad_device);
     EXPECT_EQ(outcome.code, 1);
     for (const std::string& told : {outcome.err, content_of(path("log"))})
         expect_in(told, {"describes one of its abilities by a value that does not exist",
@@ -285,11 +307,11 @@ TEST_F(Plot_Host, NamesOfADeviceComeWithoutTheNoiseOfTheFile) {
 TEST_F(Plot_Host, ReportTellsChangesThatNoBitTells) {
     const Outcome changed = run_host({"--device", sample, "--choice", office_choice});
     EXPECT_EQ(changed.code, 0);
-    expect_in(changed.out, {"10 of 20 data changed, 5 of them without a change bit.",
+    expect_in(changed.out, {"10 of 27 data changed, 5 of them without a change bit.",
                             R"(was "@PJL ENTER LANGUAGE = POSTSCRIPT\x0a")",
                             R"(now "@PJL ENTER LANGUAGE = POSTSCRIPT\x0d\x0a")"});
     const Outcome kept = run_host({"--device", sample, "--policy", "reset"});
-    expect_in(kept.out, {"0 of 20 data changed."});
+    expect_in(kept.out, {"0 of 27 data changed."});
     EXPECT_EQ(kept.out.find("was "), std::string::npos) << "a new choice is at its defaults";
 }
 
@@ -401,7 +423,7 @@ TEST_F(Plot_Host, DeviceWithLittleToTellOpensAnyChoice) {
 }
 
 // Every datum has a value of its own that no start value has, and comes back to the letter.
-TEST_F(Plot_Host, EveryMediaDatumOfAChoiceSurvives) {
+TEST_F(Plot_Host, EveryDatumOfAChoiceSurvives) {
     const std::string saved =
         R"({"device":{"maker":"","model":"D"},"media":{"type":"\u00df","source":"source",
         "source_entry":"entry","size":"size","destination":"bin","collating":"collating",
@@ -416,6 +438,9 @@ TEST_F(Plot_Host, EveryMediaDatumOfAChoiceSurvives) {
             "landscape_mode":true,"form_name":"form","media_feed":13,"collating_type":14,
             "stapling_location":15,"stapling_when":16,"stapling_orientation":270,"cutting_when":17,
             "folding_type":18,"folding_when":19,"source_width":20.5,"source_frame_height":21.25}},
+        "output":{"port":"COM3","type":"serial","protocol":"7E1","baud_rate":2400,"handshake":36,
+            "input_timeout":11,"output_timeout":12,"pathname":"out.plt","plot_to_file":true,
+            "all_system_ports_valid":true},
         "init_term":{"preinit_string":"","postinit_string":"","termination_string":""}})";
     const auto bare = [](std::string text) {
         std::erase_if(text, [](char c) { return c == ' ' || c == '\n'; });

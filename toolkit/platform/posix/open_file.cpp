@@ -270,9 +270,11 @@ void PX_Open_File::write(const void* bytes, DWORD size, DWORD& done) {
 }
 
 void PX_Open_File::close() {
+    bool is_sent = true;
     if (m_is_port) {
         try {
-            if (!send_rest() && m_line)
+            is_sent = send_rest();
+            if (!is_sent && m_line)
                 m_line->purge(PURGE_TXCLEAR);
         } catch (const PX_Failure&) {
             // The other end is gone, and the bytes with it.
@@ -283,6 +285,8 @@ void PX_Open_File::close() {
     flock(m_descriptor.get(), LOCK_UN);
     if (::close(m_descriptor.release()) != 0 && errno != EINTR)
         px_fail();
+    if (!is_sent)
+        throw PX_Failure{"The last bytes did not go out within the time-out"};
 }
 
 COMMTIMEOUTS& PX_Open_File::timeouts() {

@@ -1,4 +1,4 @@
-#include "examples/drivers/ppd/io.h"
+#include "examples/common/ways_out.h"
 
 #include "examples/common/made.h"
 
@@ -8,51 +8,45 @@ using Ability = PX_Plotter_IO_Ability_Flags;
 using Method_Ability = PX_IO_Method_Ability_Flags;
 using Value = PX_Ability_Value;
 
-constexpr long rates[] = {9600, 19200, 38400, 115200};
-constexpr long default_rate = 9600;
-constexpr wchar_t default_protocol[] = L"8N1";
 constexpr long longest_timeout = 600000;
-constexpr long default_timeout = 30000;
 
-PX_Smart_Pointer<PX_IO_Method> method_of(PX_IO_Type::Enum type, const PX_Plotter_Class_Factory& factory) {
+PX_Smart_Pointer<PX_IO_Method> method_of(PX_IO_Type::Enum type, long timeout,
+                                         const PX_Plotter_Class_Factory& factory) {
     auto method = made(factory.MK_Create_IO_Method(), L"method");
     method->set_type(type);
     method->set_max_input_timeout(longest_timeout);
     method->set_max_output_timeout(longest_timeout);
-    method->set_default_input_timeout(default_timeout);
-    method->set_default_output_timeout(default_timeout);
+    method->set_default_input_timeout(timeout);
+    method->set_default_output_timeout(timeout);
     return method;
 }
 
-// PostScript wants all eight bits; whether seven will do is the printer's secret.
-void add_line_settings(PX_IO_Method& method, const PX_Plotter_Class_Factory& factory) {
+void add_line_settings(PX_IO_Method& method, const Serial_Settings& line,
+                       const PX_Plotter_Class_Factory& factory) {
     const auto protocols = made(factory.MK_Create_Protocol_List(), L"protocols");
-    for (const auto& [name, parity] :
-         {std::pair{default_protocol, PX_Parity::Parity_None}, std::pair{L"8O1", PX_Parity::Parity_Odd},
-          std::pair{L"8E1", PX_Parity::Parity_Even}}) {
+    for (const Line_Protocol& offered : line.protocols) {
         const auto protocol = made(factory.MK_Create_Protocol(), L"protocol");
-        protocol->set_canonical_name(name);
-        protocol->set_localized_name(name);
-        protocol->set_data_bits(PX_Data_Bits::Data_Bits_8);
-        protocol->set_parity(parity);
+        protocol->set_canonical_name(offered.name);
+        protocol->set_localized_name(offered.name);
+        protocol->set_data_bits(offered.data_bits);
+        protocol->set_parity(offered.parity);
         protocol->set_stop_bits(PX_Stop_Bits::Stop_Bits_1);
         protocols->append(protocol);
     }
     method.set_protocol_list(protocols.get());
-    method.set_default_protocol(default_protocol);
+    method.set_default_protocol(line.protocols.front().name);
 
     const auto speeds = made(factory.MK_Create_Baud_Rate_List(), L"rates");
-    for (const long rate : rates) {
+    for (const long rate : line.rates) {
         const auto speed = made(factory.MK_Create_Baud_Rate(), L"rate");
         speed->set_baud_rate(rate);
         speeds->append(speed);
     }
     method.set_baud_rate_list(speeds.get());
-    method.set_default_baud_rate(default_rate);
+    method.set_default_baud_rate(line.default_rate);
 
-    method.set_handshakes(PX_Handshake::Handshake_Xon_In | PX_Handshake::Handshake_Xon_Out |
-                          PX_Handshake::Handshake_Cts_Out | PX_Handshake::Handshake_Rts_Handshake);
-    method.set_default_handshake(PX_Handshake::Handshake_Xon_Out);
+    method.set_handshakes(line.handshakes);
+    method.set_default_handshake(line.default_handshake);
     for (const Method_Ability::Enum ability :
          {Method_Ability::Method_Protocol_List, Method_Ability::Method_Baud_Rate_List,
           Method_Ability::Method_Default_Protocol, Method_Ability::Method_Default_Baud_Rate,
@@ -62,19 +56,20 @@ void add_line_settings(PX_IO_Method& method, const PX_Plotter_Class_Factory& fac
 
 }  // namespace
 
-PX_Smart_Pointer<PX_Plotter_IO_Capabilities> ppd_io_capabilities(const PX_Plotter_Class_Factory& factory) {
+PX_Smart_Pointer<PX_Plotter_IO_Capabilities> ways_out(const Serial_Settings& line, const wchar_t* extension,
+                                                      long timeout, const PX_Plotter_Class_Factory& factory) {
     auto capabilities = made(factory.MK_Create_Plotter_IO_Capabilities(), L"io_capabilities");
     const auto methods = made(factory.MK_Create_IO_Method_List(), L"methods");
     for (const PX_IO_Type::Enum type :
          {PX_IO_Type::File, PX_IO_Type::Serial, PX_IO_Type::Parallel, PX_IO_Type::Network}) {
-        const auto method = method_of(type, factory);
+        const auto method = method_of(type, timeout, factory);
         if (type == PX_IO_Type::Serial)
-            add_line_settings(*method, factory);
+            add_line_settings(*method, line, factory);
         methods->append(method);
     }
     capabilities->set_method_list(methods.get());
     capabilities->set_default_type(PX_IO_Type::File);
-    capabilities->set_default_plot_to_file_extension(L"ps");
+    capabilities->set_default_plot_to_file_extension(extension);
     capabilities->set_abilities(Value::Ability_Settable_Listed);
     // A port that is not there is nothing to keep.
     capabilities->set_one_ability(Value::Ability_Required, Ability::IO_Type);

@@ -1,22 +1,27 @@
 #pragma once
 
-#include <memory>
+#include <string>
 
-#include "examples/drivers/ppd/ppd_file.h"
 #include "toolkit/marvcon/marvcon.h"
 
-// The job-control strings of the description: preinit begins the job, postinit enters the language,
-// termination ends the job. A string that the file gives is conditional; one that it lacks the device has
-// not.
-PX_Smart_Pointer<PX_InitTerm_Capabilities> ppd_init_term_capabilities(
-    const Ppd_File& file, const PX_Plotter_Class_Factory& factory);
+// The job-control strings of a device: preinit begins the job, postinit enters the language, termination ends
+// the job. An empty one the device has not.
+struct Own_Strings {
+    std::string preinit;
+    std::string postinit;
+    std::string termination;
+};
+
+// A string that the device has is conditional.
+PX_Smart_Pointer<PX_InitTerm_Capabilities> own_strings_capabilities(const Own_Strings& own,
+                                                                    const PX_Plotter_Class_Factory& factory);
 
 // Only the device's own strings are valid, and they are the defaults. A string that the device lacks is the
 // empty one. Failures are those of the standard validator.
-class Ppd_InitTerm_Validator : public PX_Std_InitTerm_Validator {
+class Own_Strings_Validator : public PX_Std_InitTerm_Validator {
 public:
     // The definition owns the validator and outlives it.
-    Ppd_InitTerm_Validator(PX_Plotter_Definition* plotter, std::shared_ptr<const Ppd_File> file);
+    Own_Strings_Validator(PX_Plotter_Definition* plotter, Own_Strings own);
 
     void validate_preinit_string(PX_Validation_Strategy::Enum strategy) override;
     void validate_postinit_string(PX_Validation_Strategy::Enum strategy) override;
@@ -34,5 +39,5 @@ private:
     void replace_foreign(const Datum& datum);
     void store_own(const Datum& datum);
 
-    std::shared_ptr<const Ppd_File> m_file;
+    Own_Strings m_own;
 };

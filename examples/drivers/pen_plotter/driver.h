@@ -1,0 +1,17 @@
+#pragma once
+
+#include "examples/common/driver.h"
+
+// A flat-bed plotter with a carousel of eight pens that understands HP-GL/2. All of it is written down here:
+// there is no description to read.
+class Pen_Plotter_Driver : public Driver {
+public:
+    // The name of the device stands for itself.
+    PX_Smart_Pointer<PX_Plotter_Definition> open(const std::filesystem::path& device,
+                                                 PX_Smart_Pointer<PX_Error_Handler> handler) const override;
+
+protected:
+    // The lines of a pen together, in the order of the pens.
+    void draw(const PX_Plotter_Definition& device, const Drawing& drawing,
+              Plot_Output& output) const override;
+};

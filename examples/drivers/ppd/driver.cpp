@@ -1,0 +1,72 @@
+#include "examples/drivers/ppd/driver.h"
+
+#include <algorithm>
+#include <cmath>
+#include <locale>
+#include <sstream>
+#include <utility>
+
+#include "examples/common/placement.h"
+#include "examples/drivers/ppd/definition.h"
+
+namespace {
+
+// Bytes that are no number of the user's language.
+std::ostringstream plain_words() {
+    std::ostringstream words;
+    words.imbue(std::locale::classic());
+    return words;
+}
+
+std::string beginning(const PX_Plotter_Definition& device, const Placement& place) {
+    const auto media = device.get_plotter_configuration()->get_media_configuration();
+    std::ostringstream words = plain_words();
+    words << "%!PS-Adobe-3.0\n"
+          << "%%Pages: 1\n"
+          << "%%BoundingBox: 0 0 " << std::ceil(place.sheet_width()) << ' ' << std::ceil(place.sheet_height())
+          << "\n%%EndComments\n"
+          // An interpreter of the first language level has one sheet and does not ask.
+          << "/setpagedevice where { pop << /PageSize [" << place.sheet_width() << ' ' << place.sheet_height()
+          << "] /NumCopies " << std::max(1L, long{media->get_number_of_copies()})
+          << " >> setpagedevice } if\n"
+          << "1 setlinecap 1 setlinejoin\n"
+          << "%%Page: 1 1\n";
+    return words.str();
+}
+
+void stroke(const Drawing_Line& line, const Placement& place, Plot_Output& output) {
+    // What an old interpreter takes in one path.
+    constexpr std::size_t longest_path = 1000;
+    std::ostringstream look = plain_words();
+    look << line.colour.red / 255.0 << ' ' << line.colour.green / 255.0 << ' ' << line.colour.blue / 255.0
+         << " setrgbcolor " << line.width * place.scale() << " setlinewidth\n";
+    output.write(look.str());
+    // Each path begins where the one before ended.
+    for (std::size_t begin = 0; begin + 1 < line.points.size(); begin += longest_path) {
+        const std::size_t end = std::min(begin + longest_path, line.points.size() - 1);
+        std::ostringstream path = plain_words();
+        for (std::size_t at = begin; at <= end; ++at) {
+            const Drawing_Point point = place(line.points[at]);
+            path << point.x << ' ' << point.y << (at == begin ? " moveto\n" : " lineto\n");
+        }
+        output.write(path.str() + "stroke\n");
+        output.tell(end - begin);
+    }
+    output.tell(1);
+}
+
+}  // namespace
+
+PX_Smart_Pointer<PX_Plotter_Definition> Ppd_Driver::open(const std::filesystem::path& device,
+                                                         PX_Smart_Pointer<PX_Error_Handler> handler) const {
+    return open_ppd_device(device, std::move(handler));
+}
+
+void Ppd_Driver::draw(const PX_Plotter_Definition& device, const Drawing& drawing,
+                      Plot_Output& output) const {
+    const Placement place(drawing, device);
+    output.write(beginning(device, place));
+    for (const Drawing_Line& line : drawing.lines)
+        stroke(line, place, output);
+    output.write("showpage\n%%Trailer\n%%EOF\n");
+}

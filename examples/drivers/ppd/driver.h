@@ -1,0 +1,15 @@
+#pragma once
+
+#include "examples/common/driver.h"
+
+// Any device that a PostScript printer description tells of.
+class Ppd_Driver : public Driver {
+public:
+    PX_Smart_Pointer<PX_Plotter_Definition> open(const std::filesystem::path& device,
+                                                 PX_Smart_Pointer<PX_Error_Handler> handler) const override;
+
+protected:
+    // One page of PostScript.
+    void draw(const PX_Plotter_Definition& device, const Drawing& drawing,
+              Plot_Output& output) const override;
+};

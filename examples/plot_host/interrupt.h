@@ -1,0 +1,30 @@
+#pragma once
+
+#include <thread>
+
+#include "examples/plot_host/host_platform.h"
+
+namespace plot_host {
+
+// Stops the platform at the first Ctrl-C or termination while it lives, and goes on to empty the ports, so
+// that nothing waits for a dead device. A box that waits for an answer gets none any more, which is Abort.
+// The second one ends the program as ever. One at a time in a process.
+class Interrupt {
+public:
+    explicit Interrupt(Host_Platform& platform);
+    ~Interrupt();
+    Interrupt(const Interrupt&) = delete;
+    Interrupt& operator=(const Interrupt&) = delete;
+
+    bool was_caught() const;
+
+private:
+    void watch();
+
+    Host_Platform& m_platform;
+    int m_wake[2] = {-1, -1};
+    int m_answers = -1;
+    std::thread m_watcher;
+};
+
+}  // namespace plot_host

@@ -1,0 +1,222 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <chrono>
+#include <cmath>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <functional>
+#include <future>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "examples/drivers/pen_plotter/definition.h"
+#include "examples/drivers/pen_plotter/driver.h"
+#include "examples/drivers/pen_plotter/pens.h"
+#include "examples/drivers/ppd/driver.h"
+#include "examples/plot_host/configuration.h"
+#include "examples/plot_host/destination.h"
+#include "tests/support/pseudo_terminal.h"
+#include "tests/support/test_handler.h"
+#include "toolkit/platform/posix/posix_platform.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+
+const fs::path data = EXAMPLE_DATA;
+
+// Answers what it was told to, then Abort.
+class Scripted_Handler : public support::Test_Handler {
+public:
+    explicit Scripted_Handler(std::vector<int> answers, std::function<void()> when_asked = nullptr)
+        : m_answers(std::move(answers)), m_when_asked(std::move(when_asked)) {
+        set_quiet_mode(true);
+    }
+    int message_box(const wchar_t*, const wchar_t*, unsigned int, int) override {
+        ++asked;
+        if (m_when_asked)
+            m_when_asked();
+        if (m_answers.empty())
+            return IDABORT;
+        const int answer = m_answers.front();
+        m_answers.erase(m_answers.begin());
+        return answer;
+    }
+
+    int asked = 0;
+
+private:
+    std::vector<int> m_answers;
+    std::function<void()> m_when_asked;
+};
+
+class Plots : public testing::Test {
+protected:
+    Plots() {
+        std::string name = fs::temp_directory_path() / "plots.XXXXXX";
+        m_folder = mkdtemp(name.data());
+        PX_Set_Platform(&m_platform);
+    }
+    ~Plots() override {
+        PX_Set_Platform(nullptr);
+        fs::remove_all(m_folder);
+    }
+
+    // A device with its defaults, ready to plot to there.
+    PX_Smart_Pointer<PX_Plotter_Definition> device(
+        const Driver& driver, const fs::path& name, const std::string& where,
+        const std::function<void(PX_Plotter_Configuration&)>& change = {}) {
+        const plot_host::Destination destination = plot_host::destination_of(where);
+        auto made = driver.open(name, new Scripted_Handler({}));
+        const auto configuration = plot_host::new_configuration(*made);
+        made->set_plotter_configuration(configuration.get());
+        made->get_plotter_validator()->set_all_to_defaults();
+        plot_host::choose_destination(*made, destination);
+        if (change)
+            change(*configuration);
+        plot_host::fill_shoebox(*made, destination, "drawing.svg", false);
+        return made;
+    }
+    std::string plotted(const Driver& driver, const fs::path& name, const Drawing& drawing,
+                        const std::function<void(PX_Plotter_Configuration&)>& change = {}) {
+        const std::string path = m_folder / "plot";
+        const auto plotter = device(driver, name, "file:" + path, change);
+        const Plot_Result result = driver.plot(*plotter, new Scripted_Handler({}), drawing, L"plot",
+                                               [](std::size_t, std::size_t) { return true; });
+        EXPECT_EQ(result.end, Plot_End::Sent);
+        std::stringstream content;
+        content << std::ifstream(path, std::ios::binary).rdbuf();
+        EXPECT_EQ(result.bytes, content.str().size());
+        return content.str();
+    }
+
+    PX_Posix_Platform m_platform;
+    fs::path m_folder;
+    const Pen_Plotter_Driver m_pens;
+    const Ppd_Driver m_described;
+};
+
+// As large as a plot of A3 can be: a point of the drawing is one on the sheet.
+const Drawing three_lines = {1135,
+                             786,
+                             {{{{0, 0}, {72, 0}}, {0, 0, 230}, 1},
+                              {{{72, 72}, {0, 72}}, {0, 0, 0}, 1},
+                              {{{0, 0}, {0, 36}, {36, 36}}, {0, 0, 255}, 1}}};
+
+TEST_F(Plots, PenPlotterTakesUpEachPenOnce) {
+    const std::string expected =
+        "\033.(\033.I81;;17:\033.N;19:\033%0BIN;\n"
+        "PU;SP1;\n"
+        "PU1411,1411;PD395,1411;\n"
+        "PU;SP4;\n"
+        "PU395,395;PD1411,395;\n"
+        "PU395,395;PD395,903,903,903;\n"
+        "PU;SP0;\n"
+        "\033%0A\033.)";
+    EXPECT_EQ(plotted(m_pens, pen_plotter_name, three_lines), expected);
+    EXPECT_EQ(nearest_pen({255, 0, 0}), 2);
+    EXPECT_EQ(nearest_pen({0, 128, 0}), 3);
+    EXPECT_EQ(nearest_pen({255, 165, 0}), 7);
+}
+
+// Turned, the left of the drawing lies at the bottom of the sheet.
+TEST_F(Plots, TurnedSheetAndLongLine) {
+    Drawing drawing{786, 1135, {{{{0, 0}, {72, 0}}, {0, 0, 0}, 1}}};
+    const auto turn = [](PX_Plotter_Configuration& configuration) {
+        configuration.get_media_configuration()->set_dm_orientation(2);
+    };
+    const std::string turned = plotted(m_pens, pen_plotter_name, drawing, turn);
+    EXPECT_NE(turned.find("PU16411,395;PD16411,1411;"), std::string::npos) << turned;
+
+    for (int at = 0; at < 40; ++at)
+        drawing.lines[0].points.push_back({double(at), 0});
+    const std::string parted = plotted(m_pens, pen_plotter_name, drawing, turn);
+    EXPECT_EQ(std::count(parted.begin(), parted.end(), ','), 42 + 41 - 3)
+        << "42 points, 41 of them in three parts";
+    std::istringstream lines(parted);
+    for (std::string line; std::getline(lines, line);)
+        EXPECT_LT(line.size(), 256U) << "what the plotter's buffer holds";
+}
+
+TEST_F(Plots, PostScriptIsAPageOfTheChosenSize) {
+    const Drawing drawing = read_drawing(data / "floor_plan.svg");
+    const std::string job = plotted(
+        m_described, data / "sample_plotter.ppd", drawing,
+        [](PX_Plotter_Configuration& choice) { choice.get_media_configuration()->set_number_of_copies(3); });
+    const std::size_t begin = job.find("%!PS-Adobe-3.0\n");
+    const std::size_t end = job.find("%%EOF\n");
+    ASSERT_TRUE(begin != std::string::npos && end != std::string::npos && begin < end) << job;
+    EXPECT_TRUE(job.substr(0, begin).ends_with("@PJL ENTER LANGUAGE = POSTSCRIPT\r\n"));
+    EXPECT_EQ(job.substr(end + 6), "\033%-12345X@PJL EOJ\r\n\033%-12345X");
+    EXPECT_NE(job.find("/PageSize [2592 3456] /NumCopies 3 "), std::string::npos);
+    EXPECT_NE(job.find("showpage\n"), std::string::npos);
+
+    if (std::system("command -v gs >/dev/null") != 0)
+        GTEST_SKIP() << "ghostscript, which would read the page, is not installed";
+    const std::string page = m_folder / "page.ps";
+    std::ofstream(page, std::ios::binary) << job.substr(begin, end + 6 - begin);
+    const std::string ink = "timeout 60 gs -q -dSAFER -dNOPAUSE -dBATCH -sDEVICE=bbox '" + page +
+                            "' 2>&1 | grep -q '%%BoundingBox: [0-9][0-9]* [0-9]* 2[0-9][0-9][0-9] '";
+    EXPECT_EQ(std::system(ink.c_str()), 0) << "it has ink as wide as the sheet";
+}
+
+// Bytes that no line holds back.
+Drawing long_drawing() {
+    Drawing drawing{1000, 1000, {{{}, {0, 0, 0}, 1}}};
+    for (int at = 0; at < 20000; ++at)
+        drawing.lines[0].points.push_back({at / 20.0, 500 + 499 * std::sin(at / 30.0)});
+    return drawing;
+}
+
+TEST_F(Plots, RetryAfterAStandstillLosesAndDoublesNothing) {
+    const Drawing drawing = long_drawing();
+    const std::string expected = plotted(m_pens, pen_plotter_name, drawing);
+    Pseudo_Terminal terminal;
+    m_platform.map_port(L"COM1", terminal.name());
+    const auto impatient = [](PX_Plotter_Configuration& choice) {
+        choice.get_io_configuration()->set_output_timeout(200);
+    };
+    const auto plotter = device(m_pens, pen_plotter_name, "port:COM1", impatient);
+    std::future<std::string> reader;
+    // The reader wakes up at the second question.
+    int questions = 0;
+    const PX_Smart_Pointer<Scripted_Handler> handler(
+        new Scripted_Handler({IDRETRY, IDIGNORE, IDRETRY, IDRETRY}, [&] {
+            if (++questions == 2)
+                reader = std::async(std::launch::async, read_bytes, terminal.end(), expected.size(), 0u);
+        }));
+    const Plot_Result result =
+        m_pens.plot(*plotter, handler.get(), drawing, L"plot", [](std::size_t, std::size_t) { return true; });
+    EXPECT_EQ(result.end, Plot_End::Sent);
+    EXPECT_GE(handler->asked, 2);
+    ASSERT_TRUE(reader.valid());
+    EXPECT_TRUE(reader.get() == expected);
+}
+
+TEST_F(Plots, AbortEndsADeadDeviceAndTheChannelServesAgain) {
+    const Drawing drawing = long_drawing();
+    Pseudo_Terminal terminal;
+    m_platform.map_port(L"COM1", terminal.name());
+    const auto plotter = device(m_pens, pen_plotter_name, "port:COM1", [](PX_Plotter_Configuration& choice) {
+        choice.get_io_configuration()->set_output_timeout(200);
+    });
+    const PX_Smart_Pointer<Scripted_Handler> handler(new Scripted_Handler({IDRETRY}));
+    const auto go_on = [](std::size_t, std::size_t) { return true; };
+    for (int time = 0; time < 2; ++time) {
+        const auto start = std::chrono::steady_clock::now();
+        EXPECT_EQ(m_pens.plot(*plotter, handler.get(), drawing, L"plot", go_on).end, Plot_End::Stopped);
+        EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(10));
+    }
+    EXPECT_EQ(handler->asked, 3) << "nothing is asked once the answer was Abort";
+    // The host may stop as well, before a byte went out.
+    const auto stop = [](std::size_t, std::size_t) { return false; };
+    EXPECT_EQ(m_pens.plot(*plotter, handler.get(), three_lines, L"plot", stop).end, Plot_End::Stopped);
+    EXPECT_EQ(handler->asked, 3);
+    terminal.hang_up();
+    EXPECT_EQ(m_pens.plot(*plotter, handler.get(), drawing, L"plot", go_on).end, Plot_End::Not_Opened);
+}
+
+}  // namespace

@@ -97,13 +97,17 @@ inline PX_Smart_Pointer<PX_Plotter_Definition> make_device(int size_count) {
     PX_Std_InitTerm_Capabilities strings;
     strings.set_abilities(PX_Ability_Value::Ability_Required);
     const PX_Std_InitTerm_Configuration bytes;
+    const PX_Std_ResColorMem_Capabilities colors;
+    const PX_Std_ResColorMem_Configuration quality;
     const PX_Std_Plotter_IO_Capabilities ways_out;
     const PX_Std_Plotter_IO_Configuration destination;
     plotter->get_plotter_capabilities()->set_media_capabilities(&media);
     plotter->get_plotter_capabilities()->set_init_term_capabilities(&strings);
+    plotter->get_plotter_capabilities()->set_res_color_mem_capabilities(&colors);
     plotter->get_plotter_capabilities()->set_io_capabilities(&ways_out);
     plotter->get_plotter_configuration()->set_media_configuration(&sheet);
     plotter->get_plotter_configuration()->set_init_term_configuration(&bytes);
+    plotter->get_plotter_configuration()->set_res_color_mem_configuration(&quality);
     plotter->get_plotter_configuration()->set_io_configuration(&destination);
     plotter->get_plotter_validator()->set_all_to_defaults();
     return plotter;

@@ -1,6 +1,8 @@
 # The warnings and sanitizers that all of our own code is built with.
 add_library(marvcon_compile_options INTERFACE)
 target_compile_options(marvcon_compile_options INTERFACE -Wall -Wextra -Wpedantic -Wconversion)
+# A product is rounded before it is added, on every processor: scores are told to the last bit.
+target_compile_options(marvcon_compile_options INTERFACE -ffp-contract=off)
 if(MARVCON_WARNINGS_AS_ERRORS)
     target_compile_options(marvcon_compile_options INTERFACE -Werror)
 endif()

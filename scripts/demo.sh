@@ -1,6 +1,7 @@
 #!/bin/sh
 # Builds the sample host and opens a choice, which was saved on an office printer, on a wide-format device and
-# on one that is fed from a roll. Pictures of the sheets lie in build/demo.
+# on one that is fed from a roll; then plots a drawing to files and to a port. Pictures and plots lie in
+# build/demo.
 set -eu
 cd "$(dirname "$0")/.."
 . scripts/packages.sh
@@ -116,6 +117,7 @@ rm -f "$pipe"
 mkfifo "$pipe"
 cat "$pipe" >"$work/from_port.plt" &
 reader=$!
+trap 'kill "$reader" 2>/dev/null || true' EXIT
 plot_to pen-plotter --to port:LPT1 --map-port "LPT1=$pipe"
 wait "$reader"
 cmp "$plot" "$work/from_port.plt" && echo "The port got the bytes that the file has."

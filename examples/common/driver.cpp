@@ -1,7 +1,5 @@
 #include "examples/common/driver.h"
 
-#include <algorithm>
-
 #include "examples/common/made.h"
 
 namespace {

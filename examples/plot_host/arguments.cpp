@@ -5,6 +5,7 @@
 #include <charconv>
 #include <filesystem>
 #include <iterator>
+#include <map>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -148,6 +149,10 @@ std::optional<Arguments> parse_arguments(int count, const char* const* words, st
         ->type_name("NAME=DEVICE");
     add_words("--print-server", "HOST:PORT", "where the queues are, if not on the usual server",
               [&](const std::string& words) { arguments.print_server = print_server_of(words); });
+    app.add_option("--list", arguments.lists, "show what there is to choose from: resolutions, colours")
+        ->type_name("LIST")
+        ->transform(CLI::CheckedTransformer(std::map<std::string, Pick_List>{
+            {"resolutions", Pick_List::Resolutions}, {"colours", Pick_List::Colors}}));
     app.add_option("--log", arguments.log, "file that failures are written to")->type_name("FILE");
     try {
         app.parse(count, words);

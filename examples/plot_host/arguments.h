@@ -12,6 +12,9 @@
 
 namespace plot_host {
 
+// What a dialogue would offer, to be shown.
+enum class Pick_List { Resolutions, Colors };
+
 // What the command line asks for; an empty path stands for an option that was not given.
 struct Arguments {
     std::filesystem::path device;
@@ -25,6 +28,7 @@ struct Arguments {
     std::vector<std::pair<std::string, std::string>> mapped_ports;
     std::optional<std::pair<std::string, int>> print_server;
     bool any_destination = false;
+    std::vector<Pick_List> lists;
     PX_Validation_Strategy::Enum strategy = PX_Validation_Strategy::Use_Nearest;
     PX_Validation_Policy::Enum policy = PX_Validation_Policy::Validate_Conditional;
     bool fixed_settables = false;

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cctype>
-#include <cwchar>
 #include <iterator>
 #include <stdexcept>
 
@@ -22,6 +21,8 @@ constexpr Kind_Word kinds[] = {{"file", Destination::Kind::File},
 
 // "com1:" is COM1.
 std::string port_name_of(std::string name) {
+    if (name.starts_with(R"(\\.\)"))
+        name.erase(0, 4);
     if (name.ends_with(':'))
         name.pop_back();
     std::ranges::transform(name, name.begin(),

@@ -12,6 +12,7 @@
 #include "examples/plot_host/destination.h"
 #include "examples/plot_host/host_error_handler.h"
 #include "examples/plot_host/host_platform.h"
+#include "examples/plot_host/pick_lists.h"
 #include "examples/plot_host/picture.h"
 #include "examples/plot_host/report.h"
 #include "examples/plot_host/saved_choice.h"
@@ -90,8 +91,8 @@ void reconcile(const Arguments& arguments, PX_Plotter_Definition& device, std::o
     if (arguments.choice.empty()) {
         validator->set_all_to_defaults();
     } else {
-        // An older choice does not say where its plots go.
-        validator->set_selected_to_defaults(PX_Domain_Mask::IO);
+        // What an older choice does not speak of.
+        validator->set_selected_to_defaults(PX_Domain_Mask::IO | PX_Domain_Mask::Res_Color_Mem);
         made_on = load_choice(arguments.choice, *configuration);
     }
     if (arguments.to)
@@ -105,6 +106,10 @@ void reconcile(const Arguments& arguments, PX_Plotter_Definition& device, std::o
     print_heading(out, device, made_on, arguments);
     print_data(out, device, before);
     print_answer(out, *validator, answer);
+    for (const Pick_List list : arguments.lists) {
+        out << '\n';
+        list == Pick_List::Resolutions ? print_resolutions(out, device) : print_colors(out, device);
+    }
     if (!arguments.picture.empty())
         draw_sheets(arguments.picture, sheet_before,
                     take_sheet(*configuration, "After: " + shown(identity_of(device))));
@@ -162,7 +167,8 @@ Exit_Code run(int count, const char* const* words, const Find_Driver& find_drive
         finish(out);
         return code;
     } catch (PX_Exception& failure) {
-        px_report_by_kind(*handler, failure);
+        if (handler)
+            px_report_by_kind(*handler, failure);
         return Toolkit_Failed;
     } catch (const std::runtime_error& failure) {
         err << "plot_host: " << text::on_one_line(failure.what()) << '\n';

@@ -25,6 +25,11 @@ struct sigaction former[std::size(signals)];
 extern "C" void on_signal(int) {
     const int error = errno;
     caught = true;
+    // The next one, of either kind, ends the program.
+    for (std::size_t at = 0; at < std::size(signals); ++at) {
+        if (former[at].sa_handler != SIG_IGN)
+            signal(signals[at], SIG_DFL);
+    }
     // What reads an answer now is interrupted, and at the end of the file.
     dup2(nothing_fd, STDIN_FILENO);
     [[maybe_unused]] const ssize_t put = write(wake_fd, &was_signal, 1);
@@ -48,7 +53,6 @@ Interrupt::Interrupt(Host_Platform& platform) : m_platform(platform) {
     pthread_sigmask(SIG_SETMASK, &mine, nullptr);
     struct sigaction action {};
     action.sa_handler = on_signal;
-    action.sa_flags = static_cast<int>(SA_RESETHAND);
     for (std::size_t at = 0; at < std::size(signals); ++at) {
         sigaction(signals[at], nullptr, &former[at]);
         if (former[at].sa_handler != SIG_IGN)

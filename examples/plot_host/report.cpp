@@ -18,7 +18,7 @@ std::string quoted(const wchar_t* name) {
 // All of them, in the order of the report.
 std::vector<Datum> all_data() {
     std::vector<Datum> all;
-    for (const std::span<const Datum> domain : {media_data(), output_data(), init_term_data()})
+    for (const std::span<const Datum> domain : {media_data(), color_data(), output_data(), init_term_data()})
         all.insert(all.end(), domain.begin(), domain.end());
     return all;
 }

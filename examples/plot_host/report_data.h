@@ -26,6 +26,7 @@ struct Datum {
 };
 
 std::span<const Datum> media_data();
+std::span<const Datum> color_data();
 std::span<const Datum> output_data();
 std::span<const Datum> init_term_data();
 

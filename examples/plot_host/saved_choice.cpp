@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "examples/common/text.h"
+#include "examples/plot_host/saved_color.h"
 #include "examples/plot_host/saved_field.h"
 #include "examples/plot_host/saved_media.h"
 #include "examples/plot_host/saved_output.h"
@@ -64,6 +65,7 @@ struct Domain {
 
 constexpr Domain domains[] = {
     {"media", read_saved_media, write_saved_media},
+    {"color", read_saved_color, write_saved_color},
     {"output", read_saved_output, write_saved_output},
     {"init_term", read_init_term, write_init_term},
 };

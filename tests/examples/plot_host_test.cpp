@@ -263,7 +263,7 @@ TEST_F(Plot_Host, PoliciesDecideOverForeignStrings) {
         strings->set_postinit_string(&foreign);
         strings->set_termination_string(&own_end);
         const auto validator = device->get_plotter_validator();
-        validator->set_selected_to_defaults(PX_Domain_Mask::IO);
+        validator->set_selected_to_defaults(PX_Domain_Mask::IO | PX_Domain_Mask::Res_Color_Mem);
         EXPECT_FALSE(validator->validate_all(Strategy::Use_Nearest, row.policy, true));
         const auto expect_string = [&](const auto& string, Flag::Enum flag, const std::string& bytes,
                                        bool validated, bool is_default) {
@@ -307,11 +307,11 @@ TEST_F(Plot_Host, NamesOfADeviceComeWithoutTheNoiseOfTheFile) {
 TEST_F(Plot_Host, ReportTellsChangesThatNoBitTells) {
     const Outcome changed = run_host({"--device", sample, "--choice", office_choice});
     EXPECT_EQ(changed.code, 0);
-    expect_in(changed.out, {"10 of 27 data changed, 5 of them without a change bit.",
+    expect_in(changed.out, {"10 of 39 data changed, 5 of them without a change bit.",
                             R"(was "@PJL ENTER LANGUAGE = POSTSCRIPT\x0a")",
                             R"(now "@PJL ENTER LANGUAGE = POSTSCRIPT\x0d\x0a")"});
     const Outcome kept = run_host({"--device", sample, "--policy", "reset"});
-    expect_in(kept.out, {"0 of 27 data changed."});
+    expect_in(kept.out, {"0 of 39 data changed."});
     EXPECT_EQ(kept.out.find("was "), std::string::npos) << "a new choice is at its defaults";
 }
 
@@ -438,6 +438,12 @@ TEST_F(Plot_Host, EveryDatumOfAChoiceSurvives) {
             "landscape_mode":true,"form_name":"form","media_feed":13,"collating_type":14,
             "stapling_location":15,"stapling_when":16,"stapling_orientation":270,"cutting_when":17,
             "folding_type":18,"folding_when":19,"source_width":20.5,"source_frame_height":21.25}},
+        "color":{"color_mode":"mode","resolution":"fine","ism_max_mem":31,"ole_max_mem":32,"dithering":2,
+            "raster_preference":33,"installed_memory":34,"icm_method":3,"icm_intent":4,"dm_color":2,
+            "lines_overwrite":false,
+            "snapshot":{"num_colors":35,"color_depth":36,"num_undithered_colors":-37,"color_system":4,
+                "phys_resolution":{"x":1.5,"y":2.5},"addr_resolution":{"x":3.5,"y":4.5},
+                "effective_resolution":{"x":5.5,"y":6.5},"printable_area":0.125}},
         "output":{"port":"COM3","type":"serial","protocol":"7E1","baud_rate":2400,"handshake":36,
             "input_timeout":11,"output_timeout":12,"pathname":"out.plt","plot_to_file":true,
             "all_system_ports_valid":true},

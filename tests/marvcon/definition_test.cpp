@@ -213,7 +213,7 @@ TEST(Roots, AreClonedWholeAndInOrder) {
     // clang-format off
     set(caps, &A::set_custom_capabilities, Caps<PX_Custom_Capabilities>("custom"));
     set(caps, &A::set_init_term_capabilities, Caps<PX_InitTerm_Capabilities, PX_Std_InitTerm_Capabilities>("init-term"));
-    set(caps, &A::set_res_color_mem_capabilities, Caps<PX_ResColorMem_Capabilities>("rcm"));
+    set(caps, &A::set_res_color_mem_capabilities, Caps<PX_ResColorMem_Capabilities, PX_Std_ResColorMem_Capabilities>("rcm"));
     set(caps, &A::set_linetype_capabilities, Caps<PX_Linetype_Capabilities>("linetypes"));
     set(caps, &A::set_raster_capabilities, Caps<PX_Raster_Capabilities>("raster"));
     set(caps, &A::set_phys_pen_capabilities, Caps<PX_PhysPen_Capabilities>("pens"));
@@ -230,7 +230,7 @@ TEST(Roots, AreClonedWholeAndInOrder) {
     set(cfg, &B::set_custom_configuration, Cfg<PX_Custom_Configurations>("custom"));
     set(cfg, &B::set_phys_pen_configuration, Cfg<PX_PhysPen_Configuration>("pens"));
     set(cfg, &B::set_init_term_configuration, Cfg<PX_InitTerm_Configuration, PX_Std_InitTerm_Configuration>("init-term"));
-    set(cfg, &B::set_res_color_mem_configuration, Cfg<PX_ResColorMem_Configuration>("rcm"));
+    set(cfg, &B::set_res_color_mem_configuration, Cfg<PX_ResColorMem_Configuration, PX_Std_ResColorMem_Configuration>("rcm"));
     set(cfg, &B::set_io_configuration, Cfg<PX_Plotter_IO_Configuration, PX_Std_Plotter_IO_Configuration>("io"));
     set(cfg, &B::set_media_configuration, Cfg<PX_Media_Configuration, PX_Std_Media_Configuration>("media"));
     // clang-format on

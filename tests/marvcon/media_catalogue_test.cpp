@@ -78,23 +78,6 @@ TEST(Media_Catalogue, KeepsEveryField) {
     // clang-format on
 }
 
-template <class Std, class Class, class Element>
-void check_lookup(Class& object, void (Class::*set)(const PX_Named_Object_List<Element>*),
-                  PX_Smart_Pointer<Element> (Class::*find)(const wchar_t*) const) {
-    const auto list = list_of<Std, Element>({L"", L"other", L"a4", L"a4"});
-    support::withdraw(list->find(L"a4"));
-    (object.*set)(list.get());
-    const auto found = (object.*find)(L"a4");
-    EXPECT_TRUE(found && found->get_caps_type() == 3) << "the first of that name, though it is withdrawn";
-    for (const wchar_t* const missing : {L"A4", L"a", L"a44", static_cast<const wchar_t*>(nullptr)})
-        EXPECT_FALSE((object.*find)(missing));
-    (object.*set)(nullptr);
-    EXPECT_FALSE((object.*find)(L"a4"));
-}
-#define CHECK_LOOKUP(class_name, object, name)                                      \
-    check_lookup<PX_Std_##class_name>(object, &decltype(object)::set_##name##_list, \
-                                      &decltype(object)::get_##name)
-
 TEST(Media_Catalogue, IsSearchedByExactNames) {
     PX_Std_Media_Source source;
     CHECK_LOOKUP(Media_Source_Entry, source, source_entry);

@@ -55,7 +55,9 @@ public:
     TELLS(set_all_io_to_defaults, "io")
 };
 struct Recording_Pens : PX_PhysPen_Validator, PX_Object { TELLS(set_all_physpen_to_defaults, "pens") };
-class Recording_RCM : public PX_ResColorMem_Validator, public PX_Object {
+class Recording_RCM : public PX_Std_ResColorMem_Validator {
+public:
+    using PX_Std_ResColorMem_Validator::PX_Std_ResColorMem_Validator;
     TELLS(set_all_res_color_mem_to_defaults, "rcm")
     TELLS(set_res_color_mem_to_default, "rcm")
     TELLS(set_mem_area_to_default, "area")
@@ -86,7 +88,7 @@ struct Recording_Factory : PX_Std_Plotter_Class_Factory {
     MAKES(InitTerm, InitTerm_Validator, Recording_InitTerm, plotter)
     MAKES(Pen, PhysPen_Validator, Recording_Pens)
     MAKES(Custom, Custom_Validator, Recording_Custom)
-    MAKES(ResColorMem, ResColorMem_Validator, Recording_RCM)
+    MAKES(ResColorMem, ResColorMem_Validator, Recording_RCM, plotter)
     MAKES(Plotter_IO, Plotter_IO_Validator, Recording_IO, plotter)
 };
 #undef MAKES
@@ -97,6 +99,9 @@ protected:
     Plotter_Validator() {
         calls.clear();
         failing.clear();
+        // What is validated stays silent.
+        m_device.rcm_caps()->set_abilities(PX_Ability_Value::Ability_Required);
+        m_device.rcm_cfg()->set_validated(true);
     }
 
     std::string run(Policy::Enum policy, bool validate_settable = true,
@@ -188,6 +193,7 @@ TEST_F(Plotter_Validator, ReportsWhatIsMissingWhereItIsNeeded) {
     constexpr const wchar_t* function = L"PX_Std_Plotter_Validator::validate_media_datum";
     m_device.media_caps()->set_abilities(PX_Ability_Value::Ability_Conditional);
     m_device.init_term_caps()->set_abilities(PX_Ability_Value::Ability_Conditional);
+    m_device.rcm_caps()->set_abilities(PX_Ability_Value::Ability_Conditional);
     m_device.io_caps()->set_abilities(PX_Ability_Value::Ability_Conditional);
     m_device->set_plotter_configuration(nullptr);
     EXPECT_EQ(run(Policy::Keep_All), "custom ") << "nothing is asked of the configuration";
@@ -302,6 +308,8 @@ TEST_F(Plotter_Validator, ARunOverValidatedDataAllocatesNothing) {
     device.init_term_cfg()->set_validated(true);
     device.media_caps()->set_abilities(PX_Ability_Value::Ability_Required);
     device.media_cfg()->set_validated(true);
+    device.rcm_caps()->set_abilities(PX_Ability_Value::Ability_Required);
+    device.rcm_cfg()->set_validated(true);
     const auto validator = device.validator();
     validator->validate_all(Strategy::Use_Nearest, Policy::Validate_Conditional, true);
     const auto before = support::allocation_count();

@@ -18,12 +18,18 @@ public:
         plotter->set_plotter_capabilities(caps);
         caps->set_media_capabilities(PX_Smart_Pointer(factory->MK_Create_Media_Capabilities()).get());
         caps->set_init_term_capabilities(PX_Smart_Pointer(factory->MK_Create_InitTerm_Capabilities()).get());
+        caps->set_res_color_mem_capabilities(
+            PX_Smart_Pointer<PX_ResColorMem_Capabilities>(factory->MK_Create_ResColorMem_Capabilities())
+                .get());
         caps->set_io_capabilities(
             PX_Smart_Pointer<PX_Plotter_IO_Capabilities>(factory->MK_Create_Plotter_IO_Capabilities()).get());
         PX_Plotter_Configuration* const cfg = factory->MK_Create_Plotter_Configuration(L"", L"", L"");
         plotter->set_plotter_configuration(cfg);
         cfg->set_media_configuration(PX_Smart_Pointer(factory->MK_Create_Media_Configuration()).get());
         cfg->set_init_term_configuration(PX_Smart_Pointer(factory->MK_Create_InitTerm_Configuration()).get());
+        cfg->set_res_color_mem_configuration(
+            PX_Smart_Pointer<PX_ResColorMem_Configuration>(factory->MK_Create_ResColorMem_Configuration())
+                .get());
         cfg->set_io_configuration(
             PX_Smart_Pointer<PX_Plotter_IO_Configuration>(factory->MK_Create_Plotter_IO_Configuration())
                 .get());
@@ -43,6 +49,12 @@ public:
     }
     PX_Smart_Pointer<PX_InitTerm_Configuration> init_term_cfg() const {
         return m_plotter->get_plotter_configuration()->get_init_term_configuration();
+    }
+    PX_Smart_Pointer<PX_ResColorMem_Capabilities> rcm_caps() const {
+        return m_plotter->get_plotter_capabilities()->get_res_color_mem_capabilities();
+    }
+    PX_Smart_Pointer<PX_ResColorMem_Configuration> rcm_cfg() const {
+        return m_plotter->get_plotter_configuration()->get_res_color_mem_configuration();
     }
     PX_Smart_Pointer<PX_Plotter_IO_Capabilities> io_caps() const {
         return m_plotter->get_plotter_capabilities()->get_io_capabilities();

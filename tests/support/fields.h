@@ -8,6 +8,7 @@
 #include <type_traits>
 
 #include "tests/support/allocations.h"
+#include "tests/support/entries.h"
 #include "tests/support/expect_exception.h"
 #include "toolkit/core/object_list.h"
 #include "toolkit/host/geometry.h"
@@ -37,7 +38,7 @@ inline std::wstring show(const PX_Float_Rectangle* value) {
 }
 
 template <class Element>
-std::wstring show(const PX_Named_Object_List<Element>* list) {
+std::wstring show(const PX_Object_List<Element>* list) {
     std::wstring names = list ? L"list" : L"(null)";
     if (list) {
         for (const auto& element : *list)
@@ -112,13 +113,13 @@ void check_setter(Class& object, const wchar_t* (Class::*get)() const, void (Cla
     EXPECT_STREQ((object.*get)(), L"");
 }
 
-// A list is copied deep and in order, the caller's stays the caller's, and null is no list. A failing copy
-// leaves the old one.
-template <class Class, class Element>
-void check_setter(Class& object, PX_Smart_Pointer<PX_Named_Object_List<Element>> (Class::*get)() const,
-                  void (Class::*set)(const PX_Named_Object_List<Element>*),
-                  const PX_Named_Object_List<Element>* list, const Setter_Words& words) {
-    PX_Named_Object_List<Element> callers;
+// A list is copied deep and in order, the caller's stays the caller's. A failing copy leaves the old one.
+// Null is no list; where the failure has a detail, it is a new empty one.
+template <class Class, class Element, template <class> class List>
+void check_setter(Class& object, PX_Smart_Pointer<List<Element>> (Class::*get)() const,
+                  void (Class::*set)(const List<Element>*), const List<Element>* list,
+                  const Setter_Words& words) {
+    List<Element> callers;
     for (const auto& element : *list)
         callers.append(element->clone());
     (object.*set)(&callers);
@@ -130,12 +131,21 @@ void check_setter(Class& object, PX_Smart_Pointer<PX_Named_Object_List<Element>>
     for (const Thrown& thrown : failures_of([&] {
              EXPECT_TRUE((object.*get)() == stored);
              (object.*set)(&callers);
-         }))
-        EXPECT_TRUE(!thrown.type || (!thrown.frames.empty() && thrown.frames.back() == words.function));
+         })) {
+        if (!thrown.type)
+            EXPECT_FALSE(words.detail);
+        else if (!thrown.frames.empty())
+            EXPECT_EQ(thrown.frames.back(), words.function);
+        else
+            EXPECT_TRUE(words.detail && thrown.is<MVNK_Memory_Exception>() && thrown.code == 1101 &&
+                        thrown.function == words.function && thrown.detail == words.detail &&
+                        thrown.file == words.file);
+    }
+    const auto before = (object.*get)();
     (object.*set)(nullptr);
-    EXPECT_FALSE((object.*get)());
+    EXPECT_TRUE(show((object.*get)()) == (words.detail ? L"list" : L"(null)") && (object.*get)() != before);
     const std::unique_ptr<Class> clone(object.clone());
-    EXPECT_FALSE(((*clone).*get)());
+    EXPECT_EQ(show(((*clone).*get)()), show((object.*get)()));
 }
 
 // A value is copied into a new one: what was got before keeps its numbers. Null is zeros.
@@ -161,6 +171,43 @@ void check_setter(Class& object, PX_Smart_Pointer<Value> (Class::*get)() const,
     EXPECT_EQ(*held, *value);
     EXPECT_EQ(*(object.*get)(), Value());
 }
+
+// The entry of that very name, the first of several, withdrawn or not.
+template <class Std, class Class, class Element>
+void check_lookup(Class& object, void (Class::*set)(const PX_Named_Object_List<Element>*),
+                  PX_Smart_Pointer<Element> (Class::*find)(const wchar_t*) const) {
+    const auto list = list_of<Std, Element>({L"", L"other", L"a4", L"a4"});
+    withdraw(list->find(L"a4"));
+    (object.*set)(list.get());
+    const auto found = (object.*find)(L"a4");
+    EXPECT_TRUE(found && found->get_caps_type() == 3) << "the first of that name, though it is withdrawn";
+    for (const wchar_t* const missing : {L"A4", L"a", L"a44", static_cast<const wchar_t*>(nullptr)})
+        EXPECT_FALSE((object.*find)(missing));
+    (object.*set)(nullptr);
+    EXPECT_FALSE((object.*find)(L"a4"));
+}
+#define CHECK_LOOKUP(class_name, object, name)                                               \
+    support::check_lookup<PX_Std_##class_name>(object, &decltype(object)::set_##name##_list, \
+                                               &decltype(object)::get_##name)
+
+// `set` and `get` take the number of a flag.
+template <class Set, class Get>
+void check_range(int count, const wchar_t* header, const wchar_t* enum_name, Set set, Get get) {
+    set(-1);
+    EXPECT_TRUE(get(-1) == 0 && get(count - 1) == 0);
+    set(count - 1);
+    EXPECT_NE(get(count - 1), 0);
+    for (const int outside : {-2, count}) {
+        expect_thrown<PX_Severe_Error>([&] { set(outside); }, 1104, header, enum_name);
+        const auto thrown = expect_thrown<PX_Severe_Error>([&] { get(outside); }, 1104, header, enum_name);
+        EXPECT_EQ(thrown.file, L"(null)");
+    }
+}
+#define CHECK_RANGE(object, name, set_to, count, domain, enum_name)                \
+    support::check_range(                                                          \
+        count, L"toolkit/marvcon/std_" domain L"_cfg", enum_name,                  \
+        [&](int flag) { (object).set_one_##name(set_to, support::Number{flag}); }, \
+        [&](int flag) { return (object).get_one_##name(support::Number{flag}); })
 
 // What a new object reads, another value to give it, and what null does.
 template <class Class>

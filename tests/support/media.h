@@ -4,30 +4,14 @@
 #include <utility>
 
 #include "tests/support/device.h"
+#include "tests/support/entries.h"
 
 namespace support {
 
 using Ability = PX_Media_Ability_Flags;
 using Cfg = PX_Media_Config_Flags;
-using Strategy = PX_Validation_Strategy;
-
-// A number as any of the enumerations, most of whose values only drivers name.
-struct Number {
-    int value;
-    template <class Enum>
-    operator Enum() const {
-        return static_cast<Enum>(value);
-    }
-};
 
 // Catalogue entries by their values, for the lists of the capabilities or of each other.
-
-template <class Entry>
-Entry* named(const wchar_t* name) {
-    auto* const entry = new Entry;
-    entry->set_canonical_name(name);
-    return entry;
-}
 
 inline PX_Media_Type* media_type(const wchar_t* name, long drying_time, const PX_Float_XY& resolution) {
     auto* const type = named<PX_Std_Media_Type>(name);
@@ -100,16 +84,6 @@ inline PX_Media_Destination* destination(const wchar_t* name,
           &PX_Media_Destination::set_default_cutting, &PX_Media_Destination::set_default_folding})
         (destination->*set)(finishings.size() ? finishings.begin()->first : L"");
     return destination;
-}
-
-template <class Entry>
-void withdraw(const PX_Smart_Pointer<Entry>& entry) {
-    entry->set_caps_type(PX_Caps_Type::Caps_Type_Withdrawn);
-}
-
-template <class Entry>
-void drop(const PX_Smart_Pointer<PX_Named_Object_List<Entry>>& list, const wchar_t* name) {
-    list->remove(list->find(name).get());
 }
 
 // The name of a datum, its test and its default: the fields of a row, and their values.

@@ -19,6 +19,15 @@ inline void px_store_name(PX_String& field, const wchar_t* name, const wchar_t* 
     px_require_argument(name, function, detail, file);
 }
 
+// Stores the name of a chosen catalogue object. None is stored as the empty name and then throws MVNK_Error
+// 1103.
+template <class Object>
+void px_store_choice(PX_String& field, const Object* chosen, const wchar_t* function, const wchar_t* detail,
+                     const wchar_t* file) {
+    field = chosen ? chosen->get_canonical_name() : nullptr;
+    px_require_argument(chosen, function, detail, file);
+}
+
 // Takes `made` over from its maker, in the place of what `field` held. What could not be made, or not be
 // counted, for want of memory is MVNK_Memory_Exception 1101, and the field stays.
 template <class T>
@@ -91,6 +100,14 @@ void px_store_list(PX_Smart_Pointer<List>& field, const List* list, const wchar_
             throw;
     }
     throw MVNK_Memory_Exception(PX_Code::No_Memory, function, detail, file);
+}
+
+// The same, but null gives a new empty list.
+template <class T, template <class> class List>
+void px_store_list_or_empty(PX_Smart_Pointer<List<T>>& field, const List<T>* list, const wchar_t* function,
+                            const wchar_t* detail, const wchar_t* file) {
+    const List<T> empty;
+    px_store_list(field, list ? list : &empty, function, detail, file);
 }
 
 // The entry of that name; null when there is no list, no name or no such entry.

@@ -22,4 +22,5 @@
 #include "toolkit/marvcon/std_plotter_def.h"
 #include "toolkit/marvcon/std_plotter_io.h"
 #include "toolkit/marvcon/std_plval.h"
+#include "toolkit/marvcon/std_res_color_mem_cfg.h"
 #include "toolkit/marvcon/std_sys_io_caps.h"

@@ -67,6 +67,9 @@ public:
         m_plotter_capabilities->set_init_term_capabilities(
             own_strings_capabilities(own_strings, factory).get());
         m_plotter_capabilities->set_media_capabilities(pen_plotter_media(factory).get());
+        // Pens have their colours; there is no raster to choose for.
+        m_plotter_capabilities->set_res_color_mem_capabilities(
+            made(factory.MK_Create_ResColorMem_Capabilities(), L"res_color_mem_capabilities").get());
         m_plotter_capabilities->set_io_capabilities(
             ways_out(line_settings(), L"plt", timeout, factory).get());
     }

@@ -5,6 +5,7 @@
 #include "examples/common/ways_out.h"
 #include "examples/drivers/ppd/media.h"
 #include "examples/drivers/ppd/meta.h"
+#include "examples/drivers/ppd/res_color_mem.h"
 
 namespace {
 
@@ -40,6 +41,11 @@ PX_InitTerm_Validator* Ppd_Class_Factory::MK_Create_InitTerm_Validator(PX_Plotte
     return new Own_Strings_Validator(plotter, strings_of(*m_file));
 }
 
+PX_ResColorMem_Validator* Ppd_Class_Factory::MK_Create_ResColorMem_Validator(
+    PX_Plotter_Definition* plotter) const {
+    return new Ppd_ResColorMem_Validator(plotter, m_file);
+}
+
 Ppd_Definition::Ppd_Definition(PX_Smart_Pointer<PX_Error_Handler> handler,
                                std::shared_ptr<const Ppd_File> file)
     : PX_Std_Plotter_Definition(std::move(handler)) {
@@ -58,6 +64,8 @@ Ppd_Definition::Ppd_Definition(PX_Smart_Pointer<PX_Error_Handler> handler,
     m_plotter_capabilities->set_init_term_capabilities(
         own_strings_capabilities(strings_of(*file), factory).get());
     m_plotter_capabilities->set_media_capabilities(ppd_media_capabilities(*file, factory).get());
+    m_plotter_capabilities->set_res_color_mem_capabilities(
+        ppd_res_color_mem_capabilities(*file, factory).get());
     m_plotter_capabilities->set_io_capabilities(usual_ways_out(factory).get());
 }
 

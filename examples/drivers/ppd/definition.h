@@ -13,6 +13,7 @@ public:
 
     PX_Media_Validator* MK_Create_Media_Validator(PX_Plotter_Definition* plotter) const override;
     PX_InitTerm_Validator* MK_Create_InitTerm_Validator(PX_Plotter_Definition* plotter) const override;
+    PX_ResColorMem_Validator* MK_Create_ResColorMem_Validator(PX_Plotter_Definition* plotter) const override;
 
 private:
     std::shared_ptr<const Ppd_File> m_file;

@@ -9,6 +9,7 @@
 #include "examples/common/made.h"
 #include "examples/drivers/ppd/finishing.h"
 #include "examples/drivers/ppd/names.h"
+#include "examples/drivers/ppd/resolutions.h"
 
 namespace {
 
@@ -39,20 +40,11 @@ bool is_for_single_sheets(const Ppd_Choice& slot) {
     return is_manual(slot) || ppd_meaning_of(slot.name + L' ' + slot.text, meanings).has_value();
 }
 
-// "600dpi" and "600x1200dpi": the largest numbers, each way, that any choice names.
+// The largest numbers, each way, that any choice has.
 PX_Float_XY best_resolution(const Ppd_File& file) {
     PX_Float_XY best;
-    std::vector<std::wstring> names = {file.text("DefaultResolution")};
-    for (const Ppd_Choice& choice : file.option("Resolution").choices)
-        names.push_back(choice.name);
-    for (const std::wstring& name : names) {
-        wchar_t* end = nullptr;
-        const float x = std::wcstof(name.c_str(), &end);
-        const float y = end && *end == L'x' ? std::wcstof(end + 1, nullptr) : x;
-        // No device comes near to this; a word such as "inf" is no resolution.
-        if (x > 0 && y > 0 && x < 1e5F && y < 1e5F)
-            best = {std::max(best.x, x), std::max(best.y, y)};
-    }
+    for (const Ppd_Resolution& choice : ppd_resolutions(file).choices)
+        best = {std::max(best.x, choice.dpi.x), std::max(best.y, choice.dpi.y)};
     return best;
 }
 

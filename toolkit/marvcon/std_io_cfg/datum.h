@@ -1,6 +1,5 @@
 #pragma once
 
-#include <cwchar>
 #include <memory>
 
 #include "toolkit/marvcon/std_io_cfg/domain.h"
@@ -43,7 +42,7 @@ public:
         return method_of(configuration->get_type(), detail);
     }
 
-    // The machine's ports, asked for afresh.
+    // The machine's ports, as the process found them first.
     PX_Smart_Pointer<PX_Named_Object_List<PX_IO_Port>> system_ports() const {
         const std::unique_ptr<PX_System_IO_Capabilities> system(
             call([] { return new PX_Std_System_IO_Capabilities; }));

@@ -96,7 +96,7 @@ public:
 // as a plain PX_Exception, and what was written before it stays.
 //
 // Each validate_xxx ends by marking its datum as validated, each default operation too; that marks it as
-// default only where the default of the capabilities took.
+// default only where the default of the capabilities took, or where the method says that none applies.
 class PX_EXPORT PX_Plotter_IO_Validator {
 public:
     virtual ~PX_Plotter_IO_Validator();

@@ -218,7 +218,7 @@ void PX_Std_Plotter_IO_Validator::validate_output_timeout(Strategy::Enum strateg
 void PX_Std_Plotter_IO_Validator::validate_pathname(Strategy::Enum /*strategy*/) {
     const PX_IO_Datum datum(m_plotter, L"PX_Std_Plotter_IO_Validator::validate_pathname");
     datum.require_validator();
-    // The path of a plot to file never survives, whatever it is.
+    // Whatever the path is.
     if (datum.configuration->get_plot_to_file())
         datum.repair(Change::Pathname, [&] { set_pathname_to_default(); });
     datum.settle(Flag::IO_Config_Pathname);

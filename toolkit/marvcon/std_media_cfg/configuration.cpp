@@ -44,13 +44,8 @@ template <class Object>
 void PX_Std_Media_Configuration::choose(PX_String& name, const Object* object,
                                         void (Settings::*set_settings)(const Object*), Datum::Enum datum,
                                         const Choice& choice) {
-    if (!object)
-        name = nullptr;
-    px_require_argument(object, choice.function, choice.detail, file_tag);
-    px_memory_frame(choice.function, [&] {
-        name = object->get_canonical_name();
-        ((*m_settings).*set_settings)(object);
-    });
+    px_store_choice(name, object, choice.function, choice.detail, file_tag);
+    px_memory_frame(choice.function, [&] { ((*m_settings).*set_settings)(object); });
     clear_flags_of(datum);
 }
 

@@ -23,6 +23,11 @@
 #include "toolkit/marvcon/std_plotter_def/shoebox.h"
 #include "toolkit/marvcon/std_plotter_io/channel.h"
 #include "toolkit/marvcon/std_plval/validator.h"
+#include "toolkit/marvcon/std_res_color_mem_cfg/capabilities.h"
+#include "toolkit/marvcon/std_res_color_mem_cfg/catalogue.h"
+#include "toolkit/marvcon/std_res_color_mem_cfg/configuration.h"
+#include "toolkit/marvcon/std_res_color_mem_cfg/settings.h"
+#include "toolkit/marvcon/std_res_color_mem_cfg/validator.h"
 
 namespace {
 
@@ -246,6 +251,63 @@ PX_Named_Object_List<PX_Family>* PX_Std_Plotter_Class_Factory::MK_Create_Family_
 
 PX_Meta_Capabilities* PX_Std_Plotter_Class_Factory::MK_Create_Meta_Capabilities() const {
     return create<PX_Std_Meta_Capabilities>();
+}
+
+PX_Mem_Area* PX_Std_Plotter_Class_Factory::MK_Create_Mem_Area() const {
+    return create<PX_Std_Mem_Area>();
+}
+
+PX_Named_Object_List<PX_Mem_Area>* PX_Std_Plotter_Class_Factory::MK_Create_Mem_Area_List() const {
+    return create<PX_Named_Object_List<PX_Mem_Area>>();
+}
+
+PX_Dither_Matrix* PX_Std_Plotter_Class_Factory::MK_Create_Dither_Matrix() const {
+    return create<PX_Std_Dither_Matrix>();
+}
+
+PX_Object_List<PX_Dither_Matrix>* PX_Std_Plotter_Class_Factory::MK_Create_Dither_Matrix_List() const {
+    return create<PX_Object_List<PX_Dither_Matrix>>();
+}
+
+PX_Dithering_Method* PX_Std_Plotter_Class_Factory::MK_Create_Dithering_Method() const {
+    return create<PX_Std_Dithering_Method>();
+}
+
+PX_Named_Object_List<PX_Dithering_Method>* PX_Std_Plotter_Class_Factory::MK_Create_Dithering_List() const {
+    return create<PX_Named_Object_List<PX_Dithering_Method>>();
+}
+
+PX_Resolution* PX_Std_Plotter_Class_Factory::MK_Create_Resolution() const {
+    return create<PX_Std_Resolution>();
+}
+
+PX_Named_Object_List<PX_Resolution>* PX_Std_Plotter_Class_Factory::MK_Create_Resolution_List() const {
+    return create<PX_Named_Object_List<PX_Resolution>>();
+}
+
+PX_ResColorMem* PX_Std_Plotter_Class_Factory::MK_Create_ResColorMem() const {
+    return create<PX_Std_ResColorMem>();
+}
+
+PX_Named_Object_List<PX_ResColorMem>* PX_Std_Plotter_Class_Factory::MK_Create_ResColorMem_List() const {
+    return create<PX_Named_Object_List<PX_ResColorMem>>();
+}
+
+PX_ResColorMem_Settings* PX_Std_Plotter_Class_Factory::MK_Create_ResColorMem_Settings() const {
+    return create<PX_Std_ResColorMem_Settings>();
+}
+
+PX_ResColorMem_Capabilities* PX_Std_Plotter_Class_Factory::MK_Create_ResColorMem_Capabilities() const {
+    return create<PX_Std_ResColorMem_Capabilities>();
+}
+
+PX_ResColorMem_Configuration* PX_Std_Plotter_Class_Factory::MK_Create_ResColorMem_Configuration() const {
+    return create<PX_Std_ResColorMem_Configuration>();
+}
+
+PX_ResColorMem_Validator* PX_Std_Plotter_Class_Factory::MK_Create_ResColorMem_Validator(
+    PX_Plotter_Definition* plotter) const {
+    return create<PX_Std_ResColorMem_Validator>(plotter);
 }
 
 PX_Plotter_Validator* PX_Std_Plotter_Class_Factory::MK_Create_Plotter_Validator(

@@ -4,7 +4,6 @@
 #include <atomic>
 #include <cassert>
 #include <limits>
-#include <new>
 #include <string>
 #include <utility>
 

@@ -35,8 +35,8 @@ public:
 
     // Of the print job. Null is the empty name.
     virtual void set_document_name(const wchar_t* name) = 0;
-    // While open, bytes must not be waiting in the buffer when it is turned off: flush first. No memory for a
-    // buffer is as in open.
+    // While open, bytes must not be waiting in the buffer when it is turned off, or this does not return:
+    // flush first. No memory for a buffer is as in open.
     virtual void set_io_buffering(bool on) = 0;
     // In bytes: below 1 is 4096, above 8192 is 8192. While open, the buffer is emptied first if it has to be;
     // no memory for the new one is MVNK_Memory_Exception 1101, "m_chars", and writes then go out unbuffered.

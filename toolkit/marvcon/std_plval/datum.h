@@ -3,8 +3,24 @@
 #include <initializer_list>
 #include <utility>
 
+#include "toolkit/core/flags.h"
 #include "toolkit/core/frame.h"
 #include "toolkit/marvcon/std_plval/domain_objects.h"
+
+// Raises bits in a domain's change word. A missing plotter validator is MVNK_Error 1103, "plotter validator".
+template <class Domain>
+void px_raise(const PX_Plotter_Definition& plotter, long bits, const wchar_t* function) {
+    const auto validator = plotter.get_plotter_validator();
+    px_require_argument(validator, function, L"plotter validator", Domain::file_tag);
+    ((*validator).*Domain::set_changes)(((*validator).*Domain::get_changes)() | bits);
+}
+
+// Marks a datum as being at its default, which is valid.
+template <class Configuration, class Flag>
+void px_settle_default(Configuration& configuration, Flag flag) {
+    configuration.set_one_default(true, flag);
+    configuration.set_one_validated(true, flag);
+}
 
 // One run of a validator's operation over its datum: the objects it starts from, the frame it lets failures
 // pass, and what it marks. Beside what PX_Domain_Objects asks of it, `Domain` tells the domain's change word:
@@ -39,10 +55,7 @@ public:
         call(std::forward<Repair>(repair));
         raise(bits);
     }
-    void raise(long bits) const {
-        const auto validator = m_plotter->get_plotter_validator();
-        ((*validator).*Domain::set_changes)(((*validator).*Domain::get_changes)() | bits);
-    }
+    void raise(long bits) const { px_raise<Domain>(*m_plotter, bits, m_function); }
 
     // The last thing a validate operation does.
     template <class Flag>
@@ -52,8 +65,7 @@ public:
     // The last thing a default operation does.
     template <class Flag>
     void settle_default(Flag flag) const {
-        this->configuration->set_one_default(true, flag);
-        settle(flag);
+        px_settle_default(*this->configuration, flag);
     }
 
     // MVNK_Error with the operation's name.

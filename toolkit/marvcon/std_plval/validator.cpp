@@ -202,8 +202,7 @@ void PX_Std_Plotter_Validator::set_all_to_defaults() {
     px_frame(L"PX_Std_Plotter_Validator::set_all_default", [&] {
         m_media_validator->set_all_media_to_defaults();
         px_call_if_built(m_phys_pen_validator, &PX_PhysPen_Validator::set_all_physpen_to_defaults);
-        px_call_if_built(m_res_color_mem_validator,
-                         &PX_ResColorMem_Validator::set_all_res_color_mem_to_defaults);
+        m_res_color_mem_validator->set_all_res_color_mem_to_defaults();
         px_call_if_built(m_custom_validator, &PX_Custom_Validator::set_all_custom_to_defaults);
         m_init_term_validator->set_all_init_term_to_defaults();
         m_io_validator->set_all_io_to_defaults();
@@ -219,8 +218,7 @@ void PX_Std_Plotter_Validator::set_selected_to_defaults(long mask) {
         if (mask & PX_Domain_Mask::Phys_Pens)
             px_call_if_built(m_phys_pen_validator, &PX_PhysPen_Validator::set_all_physpen_to_defaults);
         if (mask & PX_Domain_Mask::Res_Color_Mem)
-            px_call_if_built(m_res_color_mem_validator,
-                             &PX_ResColorMem_Validator::set_all_res_color_mem_to_defaults);
+            m_res_color_mem_validator->set_all_res_color_mem_to_defaults();
         if (mask & PX_Domain_Mask::Init_Term)
             m_init_term_validator->set_all_init_term_to_defaults();
         if (mask & PX_Domain_Mask::Custom)
@@ -239,7 +237,7 @@ void PX_Std_Plotter_Validator::set_selected_rescolormem_data_to_defaults() {
               &RCM::set_installed_memory_to_default, &RCM::set_dithering_mode_to_default,
               &RCM::set_icm_method_to_default, &RCM::set_icm_intent_to_default, &RCM::set_dm_color_to_default,
               &RCM::set_color_vs_mono_to_default})
-            px_call_if_built(m_res_color_mem_validator, set_to_default);
+            ((*m_res_color_mem_validator).*set_to_default)();
     });
 }
 

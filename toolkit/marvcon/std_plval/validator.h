@@ -8,6 +8,7 @@
 #include "toolkit/marvcon/std_media_cfg/interface.h"
 #include "toolkit/marvcon/std_plotter_def/pending.h"
 #include "toolkit/marvcon/std_plval/interface.h"
+#include "toolkit/marvcon/std_res_color_mem_cfg/interface.h"
 
 class PX_Plotter_Definition;
 
@@ -74,6 +75,10 @@ protected:
     void validate_media_datum(PX_Media_Ability_Flags::Enum ability, PX_Media_Config_Flags::Enum datum,
                               void (PX_Media_Validator::*validate)(PX_Validation_Strategy::Enum),
                               void (PX_Media_Validator::*set_to_default)());
+    void validate_rcm_datum(PX_ResColorMem_Ability_Flags::Enum ability,
+                            PX_ResColorMem_Config_Flags::Enum datum,
+                            void (PX_ResColorMem_Validator::*validate)(PX_Validation_Strategy::Enum),
+                            void (PX_ResColorMem_Validator::*set_to_default)());
     void validate_initterm_datum(PX_InitTerm_Ability_Flags::Enum ability,
                                  PX_InitTerm_Ability_Flags::Enum datum,
                                  void (PX_InitTerm_Validator::*validate)(PX_Validation_Strategy::Enum),

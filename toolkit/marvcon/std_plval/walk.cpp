@@ -4,6 +4,7 @@
 #include "toolkit/marvcon/std_media_cfg/domain.h"
 #include "toolkit/marvcon/std_plval/domain_objects.h"
 #include "toolkit/marvcon/std_plval/validator.h"
+#include "toolkit/marvcon/std_res_color_mem_cfg/domain.h"
 
 // The run over the whole configuration: which data there are, in which order, and what is done with each.
 
@@ -33,6 +34,9 @@ struct Row {
 using MA = PX_Media_Ability_Flags;
 using MC = PX_Media_Config_Flags;
 using MV = PX_Media_Validator;
+using RA = PX_ResColorMem_Ability_Flags;
+using RC = PX_ResColorMem_Config_Flags;
+using RV = PX_ResColorMem_Validator;
 using IT = PX_InitTerm_Ability_Flags;
 using IV = PX_InitTerm_Validator;
 using OA = PX_Plotter_IO_Ability_Flags;
@@ -55,6 +59,21 @@ constexpr Row<MV, MA, MC> media_rows[] = {
     {MA::Ability_Dm_Scale,                MC::Cfg_Dm_Scale,                &MV::validate_dm_scale,                &MV::set_dm_scale_to_default},
     {MA::Ability_Dm_Orientation,          MC::Cfg_Dm_Orientation,          &MV::validate_dm_orientation,          &MV::set_dm_orientation_to_default},
     {MA::Ability_Actual_Printable_Bounds, MC::Cfg_Actual_Printable_Bounds, &MV::validate_actual_printable_bounds, &MV::set_actual_printable_bounds_to_default},
+};
+
+constexpr Row<RV, RA, RC> rcm_rows[] = {
+    {RA::RCM_Res_Color_Mem,          RC::RCM_Cfg_Res_Color_Mem,          &RV::validate_res_color_mem,        &RV::set_res_color_mem_to_default},
+    {RA::RCM_Resolution,             RC::RCM_Cfg_Resolution,             &RV::validate_resolution,           &RV::set_resolution_to_default},
+    {RA::RCM_HardSoftNo_Dithering,   RC::RCM_Cfg_HardSoftNo_Dithering,   &RV::validate_HardSoftNo_Dithering, &RV::set_HardSoftNo_Dithering_to_default},
+    {RA::RCM_Lines_Overwrite,        RC::RCM_Cfg_Lines_Overwrite,        &RV::validate_lines_overwrite,      &RV::set_lines_overwrite_to_default},
+    {RA::RCM_Color_Vs_Mono,          RC::RCM_Cfg_Color_Vs_Mono,          &RV::validate_color_vs_mono,        &RV::set_color_vs_mono_to_default},
+    {RA::RCM_Rast_Color_Vs_Res_Pref, RC::RCM_Cfg_Rast_Color_Vs_Res_Pref, &RV::validate_RastColorVsResPref,   &RV::set_RastColorVsResPref_to_default},
+    {RA::RCM_Installed_Memory,       RC::RCM_Cfg_Installed_Memory,       &RV::validate_installed_memory,     &RV::set_installed_memory_to_default},
+    {RA::RCM_ISM_Max_Mem,            RC::RCM_Cfg_ISM_Max_Mem,            &RV::validate_ISM_max_mem,          &RV::set_ISM_max_mem_to_default},
+    {RA::RCM_OLE_Max_Mem,            RC::RCM_Cfg_OLE_Max_Mem,            &RV::validate_OLE_max_mem,          &RV::set_OLE_max_mem_to_default},
+    {RA::RCM_Icm_Method,             RC::RCM_Cfg_Icm_Method,             &RV::validate_icm_method,           &RV::set_icm_method_to_default},
+    {RA::RCM_Icm_Intent,             RC::RCM_Cfg_Icm_Intent,             &RV::validate_icm_intent,           &RV::set_icm_intent_to_default},
+    {RA::RCM_Dm_Color,               RC::RCM_Cfg_Dm_Color,               &RV::validate_dm_color,             &RV::set_dm_color_to_default},
 };
 
 constexpr Row<IV, IT, IT> init_term_rows[] = {
@@ -81,6 +100,8 @@ constexpr Row<OV, OA, OC> io_rows[] = {
 void PX_Std_Plotter_Validator::walk_every_datum() {
     for (const auto& row : media_rows)
         validate_media_datum(row.ability, row.datum, row.validate, row.set_to_default);
+    for (const auto& row : rcm_rows)
+        validate_rcm_datum(row.ability, row.datum, row.validate, row.set_to_default);
     for (const auto& row : init_term_rows)
         validate_initterm_datum(row.ability, row.datum, row.validate, row.set_to_default);
     for (const auto& row : io_rows)
@@ -121,6 +142,14 @@ void PX_Std_Plotter_Validator::validate_media_datum(
     void (PX_Media_Validator::*set_to_default)()) {
     validate_datum<PX_Media_Domain>(L"PX_Std_Plotter_Validator::validate_media_datum", *m_media_validator,
                                     ability, datum, validate, set_to_default);
+}
+
+void PX_Std_Plotter_Validator::validate_rcm_datum(
+    PX_ResColorMem_Ability_Flags::Enum ability, PX_ResColorMem_Config_Flags::Enum datum,
+    void (PX_ResColorMem_Validator::*validate)(PX_Validation_Strategy::Enum),
+    void (PX_ResColorMem_Validator::*set_to_default)()) {
+    validate_datum<PX_RCM_Domain>(L"PX_Std_Plotter_Validator::validate_rcm_datum", *m_res_color_mem_validator,
+                                  ability, datum, validate, set_to_default);
 }
 
 void PX_Std_Plotter_Validator::validate_initterm_datum(

@@ -111,7 +111,10 @@ BOOL PX_Posix_Platform::WriteFile(HANDLE file, const void* bytes, DWORD size, DW
 }
 
 BOOL PX_Posix_Platform::CloseHandle(HANDLE file) {
-    return m_files->attempt(m_files->take(file), [](PX_Open_File& open) { open.close(); });
+    // It is found until it is closed: another thread may purge a port that waits for its last bytes to go.
+    const bool closed = m_files->attempt(m_files->find(file), [](PX_Open_File& open) { open.close(); });
+    m_files->take(file);
+    return closed;
 }
 
 BOOL PX_Posix_Platform::GetCommState(HANDLE port, DCB* state) {

@@ -279,8 +279,9 @@ void PX_Open_File::close() {
         } catch (const PX_Failure&) {
             // The other end is gone, and the bytes with it.
         }
-        m_line.reset();
     }
+    const std::lock_guard lock(m_line_lock);
+    m_line.reset();
     // A process that was forked off may hold the descriptor still.
     flock(m_descriptor.get(), LOCK_UN);
     if (::close(m_descriptor.release()) != 0 && errno != EINTR)
@@ -312,6 +313,7 @@ void PX_Open_File::set_state(const DCB& state) {
 }
 
 void PX_Open_File::purge(DWORD flags) {
+    const std::lock_guard lock(m_line_lock);
     line().purge(flags);
 }
 

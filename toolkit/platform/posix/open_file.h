@@ -5,6 +5,7 @@
 #include <chrono>
 #include <cstdint>
 #include <memory>
+#include <mutex>
 #include <optional>
 #include <string>
 
@@ -86,9 +87,11 @@ private:
     std::wstring m_name;
     bool m_is_port;
     mode_t m_kind = 0;  // of a file
-    // Whether a file's size is, as far as is known.
+    // Whether the size of a file is limited, as far as is known.
     bool m_is_limited = false;
     std::size_t m_bytes_until_asked = 0;
+    // Kept from going while another thread purges it.
+    std::mutex m_line_lock;
     std::unique_ptr<PX_Serial_Line> m_line;
     COMMTIMEOUTS m_timeouts{};
     DWORD m_events = 0;

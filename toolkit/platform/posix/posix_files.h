@@ -6,7 +6,6 @@
 #include <memory>
 #include <mutex>
 #include <string>
-#include <utility>
 
 #include "toolkit/platform/posix/failure.h"
 #include "toolkit/platform/posix/open_file.h"

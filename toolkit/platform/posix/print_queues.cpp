@@ -9,7 +9,6 @@
 #include <memory>
 #include <set>
 #include <string>
-#include <string_view>
 #include <utility>
 
 #include "toolkit/platform/back_end.h"

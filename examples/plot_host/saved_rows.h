@@ -1,0 +1,150 @@
+#pragma once
+
+#include <array>
+#include <charconv>
+#include <type_traits>
+#include <utility>
+#include <vector>
+
+#include "examples/plot_host/saved_field.h"
+
+// What the parts of a saved choice are read and written by, a row a datum.
+namespace plot_host {
+
+// A datum of `Owner` under its key.
+template <class Owner>
+struct Row {
+    const char* key;
+    json (*write)(const Owner&);
+    void (*read)(const Field&, Owner&);
+};
+
+// The shortest digits that stand for the very number.
+inline json as_json(float number) {
+    std::array<char, 32> digits{};
+    const auto end = std::to_chars(digits.begin(), digits.end(), number).ptr;
+    double shortest = number;
+    std::from_chars(digits.data(), end, shortest);
+    return shortest;
+}
+inline json as_json(const wchar_t* text) {
+    return text::to_utf8(text);
+}
+inline json as_json(const PX_Smart_Pointer<PX_Float_XY>& value) {
+    return {{"x", as_json(value->x)}, {"y", as_json(value->y)}};
+}
+inline json as_json(const PX_Smart_Pointer<PX_Float_Rectangle>& value) {
+    return {{"x_min", as_json(value->x_min)},
+            {"x_max", as_json(value->x_max)},
+            {"y_min", as_json(value->y_min)},
+            {"y_max", as_json(value->y_max)}};
+}
+template <class Value>
+requires std::is_arithmetic_v<Value> || std::is_enum_v<Value> json as_json(Value value) {
+    if constexpr (std::is_enum_v<Value>)
+        return static_cast<int>(value);
+    else
+        return value;
+}
+
+// Numbers that are not named are 0.
+template <class Value, std::size_t count>
+Value of_numbers(const Field& field, const std::pair<const char*, float Value::*> (&numbers)[count]) {
+    std::vector<std::string> keys;
+    for (const auto& number : numbers)
+        keys.emplace_back(number.first);
+    Value value;
+    for (const auto& [key, member] : field.members(keys))
+        value.*(std::ranges::find(numbers, key, &std::pair<const char*, float Value::*>::first)->second) =
+            member.template number<float>();
+    return value;
+}
+
+inline PX_Float_XY xy_of(const Field& field) {
+    return of_numbers<PX_Float_XY>(field, {{"x", &PX_Float_XY::x}, {"y", &PX_Float_XY::y}});
+}
+
+inline PX_Float_Rectangle rectangle_of(const Field& field) {
+    using Rectangle = PX_Float_Rectangle;
+    return of_numbers<Rectangle>(field, {{"x_min", &Rectangle::x_min},
+                                         {"x_max", &Rectangle::x_max},
+                                         {"y_min", &Rectangle::y_min},
+                                         {"y_max", &Rectangle::y_max}});
+}
+
+template <auto get, auto set, class Owner>
+void read_value(const Field& field, Owner& owner) {
+    using Value = decltype((owner.*get)());
+    if constexpr (std::is_same_v<Value, const wchar_t*>) {
+        (owner.*set)(text::from_utf8(field.name()).c_str());
+    } else if constexpr (std::is_same_v<Value, PX_Smart_Pointer<PX_Float_XY>>) {
+        const PX_Float_XY value = xy_of(field);
+        (owner.*set)(&value);
+    } else if constexpr (std::is_same_v<Value, PX_Smart_Pointer<PX_Float_Rectangle>>) {
+        const PX_Float_Rectangle value = rectangle_of(field);
+        (owner.*set)(&value);
+    } else if constexpr (std::is_same_v<Value, bool>) {
+        (owner.*set)(field.boolean());
+    } else if constexpr (std::is_floating_point_v<Value>) {
+        (owner.*set)(field.number<Value>());
+    } else if constexpr (std::is_enum_v<Value>) {
+        (owner.*set)(static_cast<Value>(field.whole_number<std::int32_t>()));
+    } else if constexpr (std::is_same_v<Value, short>) {
+        (owner.*set)(field.whole_number<short>());
+    } else {
+        // A long is of 32 bits where files of other machines come from.
+        (owner.*set)(field.whole_number<std::int32_t>());
+    }
+}
+
+template <class Owner, class Value>
+Owner owner_of(Value (Owner::*)() const);
+
+template <auto get>
+using Owner_Of = decltype(owner_of(get));
+
+template <auto get>
+json write_value(const Owner_Of<get>& owner) {
+    return as_json((owner.*get)());
+}
+
+// A value that is set as it is.
+template <auto get, auto set>
+constexpr Row<Owner_Of<get>> value_row(const char* key) {
+    return {key, write_value<get>, read_value<get, set, Owner_Of<get>>};
+}
+
+// A name whose setter wants a catalogue object. The device of the choice may not be at hand, so the object
+// carries the saved name and nothing else; the snapshot is put right afterwards.
+template <auto get, class Object, auto set>
+constexpr Row<Owner_Of<get>> name_row(const char* key) {
+    constexpr auto read = [](const Field& field, Owner_Of<get>& owner) {
+        Object named;
+        named.set_canonical_name(text::from_utf8(field.name()).c_str());
+        if constexpr (std::is_member_function_pointer_v<decltype(set)>)
+            (owner.*set)(&named);
+        else
+            set(owner, &named);
+    };
+    return {key, write_value<get>, read};
+}
+
+// In the order of the rows, whatever that of the members is.
+template <class Owner, std::size_t count>
+void read_rows(const Row<Owner> (&rows)[count], const std::vector<std::pair<std::string, Field>>& members,
+               Owner& owner) {
+    for (const Row<Owner>& row : rows) {
+        for (const auto& [key, field] : members) {
+            if (key == row.key)
+                row.read(field, owner);
+        }
+    }
+}
+
+template <class Owner, std::size_t count>
+void write_rows(const Row<Owner> (&rows)[count], const Owner& owner, json& values) {
+    for (const Row<Owner>& row : rows)
+        values[row.key] = row.write(owner);
+}
+
+}  // namespace plot_host

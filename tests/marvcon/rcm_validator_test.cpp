@@ -1,0 +1,689 @@
+#include <gtest/gtest.h>
+
+#include <limits>
+#include <string>
+
+#include "tests/support/rcm.h"
+
+namespace {
+
+using namespace support;
+using V = PX_ResColorMem_Validator;
+
+constexpr auto by_default = Strategy::Use_Default;
+constexpr auto by_nearest = Strategy::Use_Nearest;
+
+class Validator : public PX_Std_ResColorMem_Validator {
+public:
+    using PX_Std_ResColorMem_Validator::PX_Std_ResColorMem_Validator;
+    using Standard = PX_Std_ResColorMem_Validator;
+    using Standard::set_dithering_mode_to_nearest;
+    using Standard::set_HardSoftNo_Dithering_to_nearest;
+    using Standard::set_installed_memory_to_nearest;
+    using Standard::set_ISM_max_mem_to_nearest;
+    using Standard::set_mem_area_to_nearest;
+    using Standard::set_OLE_max_mem_to_nearest;
+    using Standard::set_RastColorVsResPref_to_nearest;
+    using Standard::set_res_color_mem_to_nearest;
+    using Standard::set_resolution_to_nearest;
+};
+
+std::wstring named_in_full(const std::wstring& function) {
+    return L"PX_Std_ResColorMem_Validator::" + function;
+}
+
+// A datum: its two operations, its number, its ability, and how its value reads.
+struct Datum {
+    std::wstring name;
+    void (V::*validate)(Strategy::Enum);
+    void (V::*set_to_default)();
+    int flag;
+    int ability;
+    std::wstring (*read)(const PX_ResColorMem_Configuration&);
+};
+// clang-format off
+#define DATUM(name, flag, ability, get) \
+    {L"" #name, &V::validate_##name, &V::set_##name##_to_default, flag, ability, \
+     [](const PX_ResColorMem_Configuration& cfg) { return show(cfg.get); }}
+const Datum data[] = {
+    DATUM(res_color_mem, 0, 1, get_res_color_mem()),
+    DATUM(resolution, 1, 3, get_resolution()),
+    DATUM(icm_method, 2, 19, get_icm_method()),
+    DATUM(icm_intent, 3, 20, get_icm_intent()),
+    DATUM(dm_color, 4, 21, get_dm_color()),
+    DATUM(ISM_max_mem, 5, 11, get_ISM_max_mem()),
+    DATUM(OLE_max_mem, 6, 12, get_OLE_max_mem()),
+    DATUM(HardSoftNo_Dithering, 7, 13, get_hardsoftno_dithering()),
+    DATUM(color_vs_mono, 8, 14, get_dm_color()),
+    DATUM(RastColorVsResPref, 9, 15, get_rast_color_vs_res_pref()),
+    DATUM(installed_memory, 10, 16, get_installed_memory()),
+    DATUM(lines_overwrite, 11, 23, get_lines_overwrite()),
+};
+#undef DATUM
+// clang-format on
+const auto& [mode, resolution, method, intent, dm_color, ism, ole, dithering, mono, preference, installed,
+             overwrite] = data;
+
+using Spoil = void (*)(const RCM_Device&);
+
+// Sees that the datum settles with `expected`, or as it was, for null; the change word tells which.
+void expect_settled(const Datum& datum, Spoil spoil, Strategy::Enum strategy, const wchar_t* expected,
+                    bool by_its_default) {
+    const RCM_Device device;
+    Validator validator(device.get());
+    spoil(device);
+    const std::wstring before = datum.read(*device.cfg);
+    device.cfg->set_validated(false);
+    device.cfg->set_default(false);
+    device.validator()->set_res_color_mem_cfg_changes(0x100);
+    (validator.*datum.validate)(strategy);
+    EXPECT_EQ(device.changes(), 0x100 | (expected ? 1L << datum.flag : 0L));
+    EXPECT_EQ(datum.read(*device.cfg), expected ? expected : before);
+    for (int flag = 0; flag < 12; ++flag) {
+        EXPECT_EQ(device.cfg->get_one_validated(Number{flag}), flag == datum.flag) << flag;
+        EXPECT_EQ(device.cfg->get_one_default(Number{flag}),
+                  by_its_default && flag == datum.flag && &datum != &overwrite)
+            << flag;
+    }
+}
+
+struct Row {
+    const char* name;
+    const Datum& datum;
+    Spoil spoil;
+    // Null for what passes.
+    const wchar_t* default_value = nullptr;
+    const wchar_t* nearest_value = nullptr;
+};
+
+void expect_rows(const std::vector<Row>& rows, bool nearest_is_no_default) {
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        expect_settled(row.datum, row.spoil, by_default, row.default_value, row.default_value);
+        const wchar_t* const nearest = row.nearest_value ? row.nearest_value : row.default_value;
+        for (const int strategy : {1, 2, -1})
+            expect_settled(row.datum, row.spoil, Number{strategy}, nearest,
+                           nearest && !nearest_is_no_default);
+    }
+}
+
+// Half a dot off in one of the resolutions that the driver keeps.
+template <auto get, auto axis>
+void move(const RCM_Device& device) {
+    (*((*device.normal()).*get)()).*axis += 0.5F;
+}
+
+TEST(RCM_Validator, AChoiceHasToBeThereAndAsBefore) {
+    using R = PX_Resolution;
+    using XY = PX_Float_XY;
+    // clang-format off
+    expect_rows({
+        {"mode as before", mode, [](auto&) {}},
+        {"mode of another range", mode, [](auto& d) { d.color()->set_color_system(Number{7}); d.snapshot()->set_color_system(Number{7}); }},
+        {"mode of the user's", mode, [](auto& d) { d.color()->set_caps_type(Number{2}); }},
+        {"mode gone", mode, [](auto& d) { drop(d.modes(), L"color"); }, L"mono", L"rich"},
+        {"mode withdrawn", mode, [](auto& d) { withdraw(d.color()); }, L"mono", L"rich"},
+        {"one more colour, as near as the next", mode, [](auto& d) { d.color()->set_num_colors(257); }, L"mono", L"color"},
+        {"depth", mode, [](auto& d) { d.color()->set_color_depth(9); }, L"mono", L"rich"},
+        {"undithered colours", mode, [](auto& d) { d.color()->set_num_undithered_colors(15); }, L"mono", L"rich"},
+        {"system", mode, [](auto& d) { d.color()->set_color_system(Number{3}); }, L"mono", L"color"},
+        {"undefined system on both sides", mode, [](auto& d) { d.color()->set_color_system(Number{-1}); d.snapshot()->set_color_system(Number{-1}); }, L"mono", L"color"},
+    }, true);
+    // The default resolution is that of the mode that is chosen.
+    expect_rows({
+        {"resolution as before", resolution, [](auto&) {}},
+        {"its mode is withdrawn", resolution, [](auto& d) { withdraw(d.color()); }},
+        {"method missing, below 5", resolution, [](auto& d) { d.set_ability(5, 4); drop(d.caps->get_dithering_list(), L"soft"); }},
+        {"resolution gone", resolution, [](auto& d) { drop(d.resolutions(), L"normal"); }, L"draft", L"near"},
+        {"resolution withdrawn", resolution, [](auto& d) { withdraw(d.normal()); }, L"draft", L"near"},
+        {"physical X", resolution, move<&R::get_phys_resolution_xy, &XY::x>, L"draft", L"normal"},
+        {"physical Y", resolution, move<&R::get_phys_resolution_xy, &XY::y>, L"draft", L"normal"},
+        {"addressable X", resolution, move<&R::get_addr_resolution_xy, &XY::x>, L"draft", L"normal"},
+        {"addressable Y", resolution, move<&R::get_addr_resolution_xy, &XY::y>, L"draft", L"normal"},
+        {"effective X", resolution, move<&R::get_effective_resolution_xy, &XY::x>, L"draft", L"normal"},
+        {"effective Y", resolution, move<&R::get_effective_resolution_xy, &XY::y>, L"draft", L"normal"},
+        {"method missing", resolution, [](auto& d) { drop(d.caps->get_dithering_list(), L"soft"); }, L"draft", L"normal"},
+        {"method withdrawn", resolution, [](auto& d) { withdraw(d.soft()); }, L"draft", L"normal"},
+    }, true);
+    // clang-format on
+}
+
+TEST(RCM_Validator, NumbersHaveRanges) {
+    // clang-format off
+    expect_rows({
+        {"preference 0", preference, [](auto& d) { d.cfg->set_rast_color_vs_res_pref(0); }},
+        {"preference 100", preference, [](auto& d) { d.cfg->set_rast_color_vs_res_pref(100); }},
+        {"preference 101", preference, [](auto& d) { d.cfg->set_rast_color_vs_res_pref(101); }, L"50", L"100"},
+        {"preference -1", preference, [](auto& d) { d.cfg->set_rast_color_vs_res_pref(-1); }, L"50", L"0"},
+    }, true);
+    // The others go to their default by any strategy.
+    expect_rows({
+        {"method 1", method, [](auto& d) { d.cfg->set_icm_method(1); }},
+        {"method 0", method, [](auto& d) { d.cfg->set_icm_method(0); }, L"1"},
+        {"intent 1", intent, [](auto& d) { d.cfg->set_icm_intent(1); }},
+        {"intent 0", intent, [](auto& d) { d.cfg->set_icm_intent(0); }, L"1"},
+        {"dm colour 1", dm_color, [](auto& d) { d.cfg->set_dm_color(1); }},
+        {"dm colour 2", dm_color, [](auto& d) { d.cfg->set_dm_color(2); }},
+        {"dm colour 3", dm_color, [](auto& d) { d.cfg->set_dm_color(3); }, L"1"},
+        {"dm colour 0", dm_color, [](auto& d) { d.cfg->set_dm_color(0); }, L"1"},
+        {"memory limits 0", ism, [](auto& d) { d.cfg->set_ISM_max_mem(0); }},
+        {"memory limits 0", ole, [](auto& d) { d.cfg->set_OLE_max_mem(0); }},
+        {"a driver's limit", ism, [](auto& d) { d.driver().lacks_memory = true; }, L"6"},
+        {"a driver's limit", ole, [](auto& d) { d.driver().lacks_memory = true; }, L"6"},
+        {"colour against mono", mono, [](auto& d) { d.cfg->set_dm_color(9); }},
+    }, false);
+    expect_rows({
+        {"lines that overwrite", overwrite, [](auto& d) { d.set_ability(23, 0); }},
+        {"lines that need not overwrite", overwrite, [](auto& d) { d.cfg->set_lines_overwrite(false); }},
+        {"lines of an undefined ability", overwrite, [](auto& d) { d.set_ability(23, -1); d.cfg->set_lines_overwrite(false); }},
+        {"lines that have to overwrite", overwrite, [](auto& d) { d.set_ability(23, 0); d.cfg->set_lines_overwrite(false); }, L"1"},
+    }, true);
+    // Where the default is not to be written, the bit is raised and the datum is marked all the same.
+    const RCM_Device device;
+    device.set_ability(21, 0);
+    device.cfg->set_dm_color(3);
+    Validator(device.get()).validate_dm_color(by_default);
+    EXPECT_TRUE(device.cfg->get_dm_color() == 3 && device.changes() == 0x10 && device.cfg->get_one_validated(Number{4}));
+    // clang-format on
+}
+
+TEST(RCM_Validator, SoftDitheringGoesWithTheLevelOfTheMethod) {
+    struct Case {
+        int chosen, level;
+        long undithered;  // of 256
+        int expected;
+        int ability_0 = 1, ability_2 = 1;
+    };
+    for (const Case& row : {
+             Case{0, 0, 2, 0},
+             {0, 1, 2, 0},
+             {0, 2, 2, 1},
+             {0, 3, 2, 0},
+             {2, 1, 2, 2},
+             {2, 2, 2, 1},
+             {-1, 2, 2, 1},
+             {1, 2, 2, 1},
+             {1, 3, 2, 1},
+             {1, 0, 2, 2},
+             {1, 1, 255, 2},
+             {1, 1, 256, 0},
+             {1, -1, 257, 2},
+             {1, 0, 2, 2},
+             {0, 2, 2, 0, 0},
+             {0, 2, 2, 0, -1},
+             {0, 2, 2, 0, 1, 0},
+             {1, 0, 2, 1, 1, -1},
+         }) {
+        SCOPED_TRACE(testing::Message() << row.chosen << " by level " << row.level);
+        const RCM_Device device;
+        device.set_ability(0, row.ability_0);
+        device.set_ability(2, row.ability_2);
+        device.soft()->set_required_renderers(Number{row.level});
+        // What is withdrawn is looked up all the same.
+        withdraw(device.soft());
+        withdraw(device.normal());
+        withdraw(device.color());
+        device.color()->set_num_undithered_colors(row.undithered);
+        device.cfg->set_hardsoftno_dithering(Number{row.chosen});
+        Validator(device.get()).validate_HardSoftNo_Dithering(by_nearest);
+        EXPECT_EQ(device.cfg->get_hardsoftno_dithering(), row.expected);
+        EXPECT_EQ(device.changes(), row.expected == row.chosen ? 0 : 0x80);
+        EXPECT_TRUE(device.cfg->get_one_validated(Number{7}) && !device.cfg->get_one_default(Number{7}));
+    }
+}
+
+TEST(RCM_Validator, TheInstalledMemoryIsThatOfEveryThirdArea) {
+    struct Case {
+        const char* name;
+        std::vector<const wchar_t*> names;
+        bool passes;
+        int ability = 5;
+    };
+    // "4" has the memory that is installed; "-4" has it, and "-8" another, and they are withdrawn.
+    for (const Case& row : {
+             Case{"the third", {L"8", L"8", L"4"}, true},
+             {"the first two do not count", {L"4", L"4", L"8"}, false},
+             {"the sixth", {L"8", L"8", L"8", L"8", L"8", L"4"}, true},
+             {"the fourth is a first", {L"8", L"8", L"8", L"4"}, false},
+             {"a withdrawn first is there", {L"-8", L"8", L"4"}, true},
+             {"an unknown first ends the pass", {L"?", L"8", L"8", L"4"}, true},
+             {"it ends there", {L"?", L"8", L"4"}, false},
+             {"a withdrawn second ends the pass", {L"8", L"-8", L"8", L"8", L"4"}, true},
+             {"an unknown second ends the pass", {L"8", L"?", L"8", L"8", L"4"}, true},
+             {"a withdrawn third", {L"8", L"8", L"-4"}, false},
+             {"an unknown third", {L"8", L"8", L"?", L"8", L"8", L"4"}, true},
+             {"one name", {L"4"}, false},
+             {"two names", {L"4", L"4"}, false},
+             {"no names", {}, false},
+             {"not looked at below 5", {}, true, 4},
+             {"not looked at when undefined", {}, true, -1},
+         }) {
+        SCOPED_TRACE(row.name);
+        const RCM_Device device;
+        device.set_ability(7, row.ability);
+        for (const auto& [name, memory] : {std::pair{L"4", 4}, {L"8", 8}, {L"-4", 4}, {L"-8", 8}}) {
+            auto* const area = named<PX_Std_Mem_Area>(name);
+            area->set_device_memory(memory);
+            device.caps->get_mem_area_list()->append(area);
+            if (*name == L'-')
+                withdraw(device.caps->get_mem_area(name));
+        }
+        for (const wchar_t* const name : row.names)
+            device.normal()->get_mem_area_name_list()->append(named<PX_Std_Caps_Name_List_Object>(name));
+        device.cfg->set_installed_memory(4);
+        Validator(device.get()).validate_installed_memory(by_nearest);
+        EXPECT_EQ(device.cfg->get_installed_memory(), row.passes ? 4 : 0);
+        EXPECT_EQ(device.changes(), row.passes ? 0 : 0x400);
+        EXPECT_TRUE(device.cfg->get_one_validated(Number{10}));
+        EXPECT_EQ(device.cfg->get_one_default(Number{10}), !row.passes);
+    }
+}
+
+TEST(RCM_Validator, DefaultsAreWrittenByTheirAbilities) {
+    struct Case {
+        const Datum& datum;
+        int least;  // the ability from which the default is written
+        const wchar_t* value;
+        int ability = -1;  // another than the datum's
+    };
+    for (const Case& row :
+         {Case{mode, 4, L"mono"}, Case{resolution, 4, L"draft"}, Case{resolution, 3, L"draft", 1},
+          Case{ism, 1, L"6"}, Case{ole, 1, L"6"}, Case{dithering, 1, L"0"}, Case{preference, 1, L"50"},
+          Case{installed, 1, L"0"}, Case{method, 1, L"1"}, Case{intent, 1, L"1"}, Case{dm_color, 1, L"1"},
+          Case{overwrite, -1, L"1"}, Case{mono, 6, L"1"}}) {
+        for (int ability = -1; ability <= 5; ++ability) {
+            SCOPED_TRACE(testing::PrintToString(row.datum.name) + std::to_string(ability));
+            const RCM_Device device;
+            for (const auto set :
+                 {&PX_ResColorMem_Configuration::set_ISM_max_mem,
+                  &PX_ResColorMem_Configuration::set_OLE_max_mem,
+                  &PX_ResColorMem_Configuration::set_rast_color_vs_res_pref,
+                  &PX_ResColorMem_Configuration::set_installed_memory,
+                  &PX_ResColorMem_Configuration::set_icm_method,
+                  &PX_ResColorMem_Configuration::set_icm_intent, &PX_ResColorMem_Configuration::set_dm_color})
+                ((*device.cfg).*set)(77);
+            device.cfg->set_lines_overwrite(false);
+            const std::wstring before = row.datum.read(*device.cfg);
+            device.set_ability(row.ability < 0 ? row.datum.ability : row.ability, ability);
+            Validator validator(device.get());
+            (validator.*row.datum.set_to_default)();
+            EXPECT_EQ(row.datum.read(*device.cfg), ability >= row.least ? row.value : before);
+            EXPECT_EQ(device.changes(), 0);
+            for (int flag = 0; flag < 12; ++flag) {
+                EXPECT_EQ(device.cfg->get_one_default(Number{flag}), flag == row.datum.flag) << flag;
+                EXPECT_EQ(device.cfg->get_one_validated(Number{flag}), flag == row.datum.flag) << flag;
+            }
+        }
+    }
+    for (const auto& [path, limit] :
+         {std::pair{L"C:\\drivers\\HPGDI", 3}, {L"xHPGDIx.hdi", 3}, {L"hpgdi", 6}, {L"HPGD", 6}, {L"", 6}}) {
+        const RCM_Device device;
+        device->get_meta_capabilities()->set_driver_pathname(path);
+        Validator(device.get()).set_ISM_max_mem_to_default();
+        EXPECT_EQ(device.cfg->get_ISM_max_mem(), limit) << testing::PrintToString(std::wstring(path));
+    }
+}
+
+struct Failure {
+    const char* name;
+    std::wstring function;
+    void (*call)(Validator&);
+    Spoil spoil;
+    unsigned int code;
+    const wchar_t* detail;
+    std::vector<std::wstring> frames = {};
+    // What both choices read afterwards.
+    const wchar_t* chosen = L"color normal";
+};
+
+TEST(RCM_Validator, ReportsWhatCannotBeUsedAndKeepsWhatIsWritten) {
+    const std::wstring set_mode = L"PX_Std_ResColorMem_Configuration::set_res_color_mem";
+    const std::wstring set_resolution = L"PX_Std_ResColorMem_Configuration::set_resolution";
+    const std::wstring default_mode = named_in_full(L"set_res_color_mem_to_default");
+    const std::wstring default_resolution = named_in_full(L"set_resolution_to_default");
+    const std::wstring validate_mode = named_in_full(L"validate_res_color_mem");
+    const std::wstring validate_resolution = named_in_full(L"validate_resolution");
+    struct Driver : PX_Std_ResColorMem_Capabilities {
+        PX_Smart_Pointer<PX_Named_Object_List<PX_ResColorMem>> get_res_color_mem_list() const override {
+            return nullptr;
+        }
+        PX_ResColorMem_Capabilities* clone() const override { return new Driver; }
+    };
+    const auto no_modes = [](const RCM_Device& d) {
+        d.driver().forgets = true;
+        d->get_plotter_capabilities()->set_res_color_mem_capabilities(std::make_unique<Driver>().get());
+    };
+    const auto no_mode = [](const RCM_Device& d) { drop(d.modes(), L"color"); };
+    const auto no_default = [](const RCM_Device& d) { drop(d.resolutions(), L"draft"); };
+    const auto bad_modes = [](const RCM_Device& d) {
+        withdraw(d.modes()->find(L"mono"));
+        withdraw(d.color());
+    };
+    // clang-format off
+    const Failure rows[] = {
+        {"no list of modes, before the snapshot", validate_mode, [](auto& v) { v.validate_res_color_mem(by_default); }, no_modes, 1103, L"res_color_mem_list"},
+        {"no snapshot", validate_mode, [](auto& v) { v.validate_res_color_mem(by_default); }, [](auto& d) { d.driver().forgets = true; d.modes()->clear(); }, 1103, L"settings"},
+        {"no mode, before the snapshot", validate_resolution, [](auto& v) { v.validate_resolution(by_nearest); }, [](auto& d) { d.driver().forgets = true; d.modes()->clear(); }, 1103, L"res_color_mem_list"},
+        {"no snapshot of the resolution", validate_resolution, [](auto& v) { v.validate_resolution(by_nearest); }, [](auto& d) { d.driver().forgets = true; d.resolutions()->clear(); }, 1103, L"settings"},
+        {"default mode withdrawn", default_mode, [](auto& v) { v.set_res_color_mem_to_default(); }, bad_modes, 401, L"", {}, L"mono normal"},
+        {"the same out of a test", default_mode, [](auto& v) { v.validate_res_color_mem(by_default); }, bad_modes, 401, L"", {validate_mode}, L"mono normal"},
+        {"the same out of the group", default_mode, [](auto& v) { v.validate_all_res_color_mem(by_default); }, bad_modes, 401, L"",
+         {validate_mode, named_in_full(L"validate_all_res_color_mem")}, L"mono normal"},
+        {"the same out of the defaults", default_mode, [](auto& v) { v.set_all_res_color_mem_to_defaults(); }, bad_modes, 401, L"",
+         {named_in_full(L"set_all_res_color_mem_to_defaults")}, L"mono normal"},
+        {"default mode missing", set_mode, [](auto& v) { v.set_res_color_mem_to_default(); }, [](auto& d) { drop(d.modes(), L"mono"); }, 1103, L"rcm", {}, L" normal"},
+        {"no mode near", set_mode, [](auto& v) { v.validate_res_color_mem(by_nearest); }, [](auto& d) { for (const auto& each : *d.modes()) withdraw(each); }, 1103, L"rcm", {validate_mode}, L" normal"},
+        {"default resolution of no mode", default_resolution, [](auto& v) { v.set_resolution_to_default(); }, no_mode, 1103, L"rcm"},
+        {"default resolution missing", set_resolution, [](auto& v) { v.set_resolution_to_default(); }, no_default, 1103, L"resolution", {}, L"color "},
+        {"default resolution withdrawn", default_resolution, [](auto& v) { v.set_resolution_to_default(); }, [](auto& d) { withdraw(d.resolutions()->find(L"draft")); }, 403, L"", {}, L"color draft"},
+        {"its method missing", default_resolution, [](auto& v) { v.set_resolution_to_default(); }, [](auto& d) { drop(d.caps->get_dithering_list(), L"hard"); }, 403, L"", {}, L"color draft"},
+        {"its method withdrawn, out of a test", default_resolution, [](auto& v) { v.validate_resolution(by_default); },
+         [](auto& d) { withdraw(d.caps->get_dithering(L"hard")); withdraw(d.normal()); }, 403, L"", {validate_resolution}, L"color draft"},
+        {"no resolution near", set_resolution, [](auto& v) { v.validate_resolution(by_nearest); }, [](auto& d) { d.resolutions()->clear(); }, 1103, L"resolution", {validate_resolution}, L"color "},
+    };
+    // clang-format on
+    for (const Failure& row : rows) {
+        SCOPED_TRACE(row.name);
+        const RCM_Device device;
+        Validator validator(device.get());
+        row.spoil(device);
+        device.cfg->set_validated(false);
+        device.cfg->set_default(false);
+        const auto thrown = thrown_by([&] { row.call(validator); });
+        ASSERT_TRUE(thrown);
+        EXPECT_EQ(thrown->function, row.function);
+        EXPECT_EQ(thrown->code, row.code);
+        EXPECT_EQ(thrown->detail, row.detail);
+        EXPECT_EQ(thrown->file, rcm_file);
+        EXPECT_EQ(thrown->frames, row.frames);
+        EXPECT_EQ(thrown->is<MVNK_Error>(), row.frames.empty());
+        EXPECT_EQ(device.cfg->get_res_color_mem() + std::wstring(L" ") + device.cfg->get_resolution(),
+                  row.chosen);
+        EXPECT_EQ(device.changes(), 0);
+        for (int flag = 0; flag < 2; ++flag)
+            EXPECT_FALSE(device.cfg->get_one_validated(Number{flag}) ||
+                         device.cfg->get_one_default(Number{flag}));
+    }
+    // With a lower ability the method is not asked for.
+    const RCM_Device device;
+    device.set_ability(5, 4);
+    drop(device.caps->get_dithering_list(), L"hard");
+    EXPECT_NO_THROW(Validator(device.get()).set_resolution_to_default());
+}
+
+// Each operation but the hooks needs the four objects; some ask nothing of the device.
+TEST(RCM_Validator, NeedsItsObjects) {
+    const auto is_for_configuration_alone = [](const std::wstring& operation) {
+        return operation == L"validate_color_vs_mono" || operation == L"set_color_vs_mono_to_default" ||
+               operation == L"set_lines_overwrite_to_default" || operation == L"validate_dm_color";
+    };
+    std::vector<std::pair<std::wstring, std::function<void(Validator&)>>> operations = {
+        {L"set_res_color_mem_to_nearest", [](auto& v) { v.set_res_color_mem_to_nearest(); }},
+        {L"set_resolution_to_nearest", [](auto& v) { v.set_resolution_to_nearest(); }},
+        {L"set_RastColorVsResPref_to_nearest", [](auto& v) { v.set_RastColorVsResPref_to_nearest(); }}};
+    for (const Datum& datum : data) {
+        operations.emplace_back(L"validate_" + datum.name, [&](auto& v) { (v.*datum.validate)(by_default); });
+        operations.emplace_back(L"set_" + datum.name + L"_to_default",
+                                [&](auto& v) { (v.*datum.set_to_default)(); });
+    }
+    for (const auto& [operation, call] : operations) {
+        SCOPED_TRACE(testing::PrintToString(operation));
+        const auto expect_missing = [&, &call = call, &operation = operation](
+                                        const RCM_Device& device, bool from_caps, const wchar_t* detail) {
+            Validator validator(device.get());
+            if (from_caps && is_for_configuration_alone(operation))
+                EXPECT_NO_THROW(call(validator));
+            else
+                EXPECT_EQ(expect_thrown<MVNK_Error>([&] { call(validator); }, 1103, named_in_full(operation),
+                                                    detail)
+                              .file,
+                          rcm_file);
+        };
+        const RCM_Device device;
+        device->set_plotter_capabilities(new PX_Std_Plotter_Capabilities);
+        expect_missing(device, true, L"rcm_caps or rcm_config");
+        device->set_plotter_capabilities(nullptr);
+        expect_missing(device, true, L"plotter_caps or plotter_config");
+        const RCM_Device other;
+        other->set_plotter_configuration(new PX_Std_Plotter_Configuration);
+        expect_missing(other, false, L"rcm_caps or rcm_config");
+        other->set_plotter_configuration(nullptr);
+        expect_missing(other, false, L"plotter_caps or plotter_config");
+    }
+    // The default of a bad value asks for the device.
+    const RCM_Device device;
+    device.cfg->set_dm_color(3);
+    device->set_plotter_capabilities(nullptr);
+    Validator validator(device.get());
+    expect_thrown<MVNK_Error>([&] { validator.validate_dm_color(by_default); }, 1103,
+                              named_in_full(L"set_dm_color_to_default"), L"plotter_caps or plotter_config");
+    device->set_plotter_configuration(nullptr);
+    for (const auto hook : {&V::validate_dithering_mode, &V::validate_mem_area})
+        (validator.*hook)(by_nearest);
+    for (const auto hook : {&V::set_dithering_mode_to_default, &V::set_mem_area_to_default})
+        (validator.*hook)();
+    validator.set_dithering_mode_to_nearest();
+    validator.set_mem_area_to_nearest();
+    validator.set_ISM_max_mem_to_nearest();
+    validator.set_OLE_max_mem_to_nearest();
+    validator.set_HardSoftNo_Dithering_to_nearest();
+    validator.set_installed_memory_to_nearest();
+}
+
+struct Mode {
+    const wchar_t* name;
+    long colors, depth, undithered;
+    int system = 0;
+    int caps_type = 0;
+};
+
+// What the search takes from these modes, in this order; empty for none.
+std::wstring nearest_mode(const std::vector<Mode>& modes, const Mode& had) {
+    const RCM_Device device;
+    device.modes()->clear();
+    for (const Mode& each : modes) {
+        device.modes()->append(color_mode(each.name, each.colors, each.depth, each.undithered, each.system));
+        device.modes()->find(each.name)->set_caps_type(Number{each.caps_type});
+    }
+    const PX_Smart_Pointer<PX_ResColorMem> before =
+        color_mode(L"had", had.colors, had.depth, had.undithered, had.system);
+    device.cfg->set_res_color_mem(before.get());
+    device.cfg->set_validated(true);
+    device.cfg->set_default(true);
+    Validator validator(device.get());
+    const auto thrown = thrown_by([&] { validator.set_res_color_mem_to_nearest(); });
+    EXPECT_TRUE(!thrown || (thrown->code == 1103 && thrown->detail == L"rcm"));
+    EXPECT_EQ(device.cfg->get_one_validated(Number{0}), thrown.has_value());
+    EXPECT_EQ(device.cfg->get_one_default(Number{0}), thrown.has_value());
+    EXPECT_EQ(device.changes(), 0);
+    EXPECT_EQ(device.snapshot()->get_num_colors(),
+              thrown ? had.colors
+                     : device.caps->get_res_color_mem(device.cfg->get_res_color_mem())->get_num_colors());
+    return device.cfg->get_res_color_mem();
+}
+
+TEST(RCM_Nearest, AModeByItsNumbers) {
+    // With the hundred of the systems it is as far as where the search begins.
+    constexpr long far = 2147483547;
+    // clang-format off
+    const struct {
+        const char* name;
+        Mode had;
+        std::vector<Mode> modes;
+        const wchar_t* expected;
+    } rows[] = {
+        {"24.0 against 16.0", {L"", 256, 8, 0}, {{L"a", 16, 8, 0}, {L"b", 256, 24, 0}}, L"b"},
+        {"the other way", {L"", 256, 8, 0}, {{L"a", 96, 8, 0}, {L"b", 256, 25, 0}}, L"a"},
+        {"the system plays no part", {L"", 2, 1, 0, 2}, {{L"a", 2, 2, 0, 2}, {L"b", 2, 1, 0, 0}}, L"b"},
+        {"nor does its family", {L"", 2, 1, 0, 4}, {{L"a", 2, 1, 0, 3}, {L"b", 2, 1, 0, 4}}, L"a"},
+        {"undithered as much as depth", {L"", 2, 5, 5}, {{L"a", 2, 3, 5}, {L"b", 2, 5, 7}, {L"c", 2, 5, 6}}, L"c"},
+        {"undithered in full", {L"", 12, 5, 5}, {{L"a", 12, 5, 3}, {L"b", 2, 5, 5}}, L"b"},
+        {"below zero", {L"", 2, 5, -5}, {{L"a", 2, 5, 5}, {L"b", 2, 5, -14}}, L"b"},
+        {"a tie", {L"", 100, 5, 5}, {{L"a", 76, 15, 5}, {L"b", 124, 5, 15}, {L"c", 100, 5, 18}}, L"a"},
+        {"a withdrawn one", {L"", 2, 5, 5}, {{L"a", 2, 5, 5, 0, 3}, {L"b", 9, 9, 9, 0, 2}}, L"b"},
+        {"240 tenths are 24 in single precision", {L"", 0, 0, 0}, {{L"a", 240, 0, 0}, {L"b", 0, 24, 0}}, L"a"},
+        {"13 tenths are more than 1 and 3", {L"", 0, 0, 0}, {{L"a", 13, 0, 0}, {L"b", 3, 1, 0}}, L"b"},
+        {"colours in single precision", {L"", 0, 0, 0}, {{L"a", 16777217, 0, 0}, {L"b", 16777216, 0, 0}}, L"a"},
+        {"the sum in double precision", {L"", 0, 0, 0}, {{L"a", 0, 16777217, 0}, {L"b", 0, 16777216, 0}}, L"b"},
+        {"as far as it goes", {L"", 0, 0, 0, 4}, {{L"a", 0, 0, far - 1, 9}}, L"a"},
+        {"a hundred too far", {L"", 0, 0, 0, 0}, {{L"a", 0, 0, far, 9}}, L""},
+        {"too far for every system", {L"", 0, 0, 0, 4}, {{L"a", 0, 0, far, 3}}, L""},
+        {"nothing is added above the systems", {L"", 0, 0, 0, 5}, {{L"a", 0, 0, far, 0}}, L"a"},
+        {"nor below", {L"", 0, 0, 0, -1}, {{L"a", 0, 0, far + 99, 0}}, L"a"},
+        {"too far at all", {L"", 0, 0, 0, -1}, {{L"a", 0, 0, far + 100, 0}}, L""},
+        {"ends of the range", {L"", 0, 0, std::numeric_limits<long>::max(), 5}, {{L"a", 0, 0, std::numeric_limits<long>::min()}}, L""},
+        {"none", {L"", 0, 0, 0}, {}, L""},
+    };
+    // clang-format on
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        EXPECT_EQ(nearest_mode(row.modes, row.had), row.expected);
+    }
+}
+
+struct Resolution {
+    const wchar_t* name;
+    PX_Float_XY phys = {}, addr = {}, effective = {};
+    int caps_type = 0;
+};
+
+// What the search takes from these resolutions, beside one of nothing but `had`.
+std::wstring nearest_resolution(const std::vector<Resolution>& resolutions, const Resolution& had = {}) {
+    const RCM_Device device;
+    device.resolutions()->clear();
+    for (const Resolution& each : resolutions) {
+        device.resolutions()->append(support::resolution(each.name, each.phys, each.addr, each.effective));
+        device.resolutions()->find(each.name)->set_caps_type(Number{each.caps_type});
+    }
+    const PX_Smart_Pointer<PX_Resolution> before =
+        support::resolution(L"had", had.phys, had.addr, had.effective);
+    device.cfg->set_resolution(before.get());
+    device.cfg->set_validated(true);
+    Validator validator(device.get());
+    const auto thrown = thrown_by([&] { validator.set_resolution_to_nearest(); });
+    EXPECT_TRUE(!thrown || (thrown->code == 1103 && thrown->detail == L"resolution"));
+    EXPECT_EQ(device.cfg->get_one_validated(Number{1}), thrown.has_value());
+    return device.cfg->get_resolution();
+}
+
+TEST(RCM_Nearest, AResolutionByItsPairs) {
+    const Resolution had = {L"", {100, 100}, {100, 100}, {100, 100}};
+    const auto rival = [&](float distance) {
+        Resolution made = had;
+        made.name = L"rival";
+        made.effective.y += distance;
+        return made;
+    };
+    for (const auto& [pair, weight] :
+         {std::pair{&Resolution::phys, 0.5F}, {&Resolution::addr, 0.1F}, {&Resolution::effective, 1.0F}}) {
+        for (const auto axis : {&PX_Float_XY::x, &PX_Float_XY::y}) {
+            for (const float difference : {10.0F, -10.0F}) {
+                Resolution row = had;
+                row.name = L"row";
+                row.*pair.*axis += difference;
+                const float distance = 10.0F * weight;
+                EXPECT_EQ(nearest_resolution({row, rival(distance)}, had), L"row");
+                EXPECT_EQ(nearest_resolution({rival(distance), row}, had), L"rival");
+                EXPECT_EQ(nearest_resolution({rival(distance + 0.25F), row}, had), L"row");
+                EXPECT_EQ(nearest_resolution({row, rival(distance - 0.25F)}, had), L"rival");
+            }
+        }
+    }
+    constexpr float big = 16777216;
+    constexpr float huge = 3e38F;
+    constexpr float nan = std::numeric_limits<float>::quiet_NaN();
+    // clang-format off
+    const struct {
+        const char* name;
+        std::vector<Resolution> resolutions;
+        const wchar_t* expected;
+    } rows[] = {
+        {"single precision: the ones get lost behind the physical", {{L"a", {2 * big, 0}, {}, {1, 1}}, {L"b", {2 * big, 0}}}, L"a"},
+        {"X before Y", {{L"a", {}, {}, {big, 1}}, {L"b", {}, {}, {big, 0}}}, L"a"},
+        {"physical Y before addressable", {{L"a", {0, 2 * big}, {10, 10}}, {L"b", {0, 2 * big}}}, L"a"},
+        {"physical first: its ones make two", {{L"a", {2, 2}, {}, {big, 0}}, {L"b", {}, {}, {big, 1}}}, L"b"},
+        {"a tenth in single precision", {{L"a", {}, {240, 0}}, {L"b", {}, {}, {24, 0}}}, L"a"},
+        {"withdrawn", {{L"a", {}, {}, {}, 3}, {L"b", {}, {}, {9, 9}, 1}}, L"b"},
+        {"as far as where the search begins", {{L"a", {}, {}, {std::numeric_limits<float>::max(), 0}}}, L""},
+        {"halves that fit into a number", {{L"a", {huge, huge}}}, L"a"},
+        {"too far for a number", {{L"a", {}, {}, {huge, huge}}}, L""},
+        {"no number", {{L"a", {nan, 0}}, {L"b", {}, {}, {9, 9}}}, L"b"},
+    };
+    // clang-format on
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        EXPECT_EQ(nearest_resolution(row.resolutions), row.expected);
+    }
+}
+
+// A driver's validator that only tells what is called.
+class Recorder : public PX_Std_ResColorMem_Validator {
+    static void tell(const char* what, int datum) { calls += what + std::to_string(datum) + " "; }
+
+public:
+    using PX_Std_ResColorMem_Validator::PX_Std_ResColorMem_Validator;
+    static inline std::string calls;
+// clang-format off
+#define RECORD(number, name)                                                         \
+    void validate_##name(Strategy::Enum s) override { tell(s ? "n" : "v", number); } \
+    void set_##name##_to_default() override { tell("d", number); }
+    RECORD(0, res_color_mem) RECORD(1, resolution) RECORD(2, icm_method) RECORD(3, icm_intent) RECORD(4, dm_color)
+    RECORD(5, ISM_max_mem) RECORD(6, OLE_max_mem) RECORD(7, HardSoftNo_Dithering) RECORD(8, color_vs_mono)
+    RECORD(9, RastColorVsResPref) RECORD(10, installed_memory) RECORD(11, lines_overwrite)
+    RECORD(99, dithering_mode) RECORD(98, mem_area)
+#undef RECORD
+    // clang-format on
+};
+
+class Recorder_Factory : public PX_Std_Plotter_Class_Factory {
+    PX_ResColorMem_Validator* MK_Create_ResColorMem_Validator(PX_Plotter_Definition* plotter) const override {
+        return new Recorder(plotter);
+    }
+};
+
+TEST(RCM_Validator_In_A_Run, TheThreeOrdersDiffer) {
+    const RCM_Device device{new Definition_With<Recorder_Factory>};
+    Recorder validator(device.get());
+    Recorder::calls.clear();
+    validator.validate_all_res_color_mem(by_nearest);
+    EXPECT_EQ(Recorder::calls, "n0 n1 n7 n9 n10 n5 n6 n2 n3 n4 n11 ");
+    Recorder::calls.clear();
+    validator.set_all_res_color_mem_to_defaults();
+    EXPECT_EQ(Recorder::calls, "d0 d1 d7 d11 d8 d9 d10 d5 d6 d2 d3 d4 ");
+    const auto run = [&] {
+        Recorder::calls.clear();
+        device.validator()->validate_all(by_nearest, PX_Validation_Policy::Keep_All, true);
+        return Recorder::calls;
+    };
+    device.cfg->set_validated(false);
+    device.caps->set_abilities(PX_Ability_Value::Ability_Required);
+    EXPECT_EQ(run(), "n0 n1 n7 n11 n8 n9 n10 n5 n6 n2 n3 n4 ");
+    for (const Datum& datum : data) {
+        const std::string number = std::to_string(datum.flag) + " ";
+        device.cfg->set_validated(false);
+        device.caps->set_abilities(PX_Ability_Value::Ability_Fixed);
+        device.set_ability(datum.ability, 5);
+        EXPECT_EQ(run(), "n" + number);
+        device.set_ability(datum.ability, 0);
+        EXPECT_EQ(run(), "d" + number);
+        device.caps->set_abilities(PX_Ability_Value::Ability_Required);
+        device.cfg->set_validated(true);
+        device.cfg->set_one_validated(false, Number{datum.flag});
+        EXPECT_EQ(run(), "n" + number);
+    }
+}
+
+TEST(RCM_Validator_In_A_Run, LaterDataSeeWhatEarlierRepairsWrote) {
+    const RCM_Device device;
+    drop(device.modes(), L"color");
+    device.cfg->set_validated(false);
+    device.validator()->validate_all(by_default, PX_Validation_Policy::Validate_Conditional, true);
+    EXPECT_STREQ(device.cfg->get_res_color_mem(), L"mono");
+    EXPECT_STREQ(device.cfg->get_resolution(), L"only");
+    EXPECT_EQ(device.cfg->get_hardsoftno_dithering(), PX_HardSoftNo_Dithering::No_Dithering);
+    EXPECT_EQ(device.changes(), 0x83);
+    EXPECT_EQ(device.validator()->get_config_changed() & 8, 8);
+    EXPECT_TRUE(device.cfg->get_validated());
+}
+
+}  // namespace

@@ -70,7 +70,7 @@ Destination destination_of(const std::string& words) {
 
 std::string shown(const Destination& destination) {
     const auto kind = std::ranges::find(kinds, destination.kind, &Kind_Word::kind);
-    return kind->word + (" " + text::on_one_line(destination.name));
+    return std::string(kind->word).append(" ").append(text::on_one_line(destination.name));
 }
 
 void choose_destination(PX_Plotter_Definition& device, const Destination& destination) {

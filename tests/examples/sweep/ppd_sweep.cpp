@@ -78,6 +78,20 @@ struct Draw {
 };
 
 // What a user could choose on the device, over its defaults.
+void choose(Draw& draw, const PX_ResColorMem_Capabilities& offered, PX_ResColorMem_Configuration& color) {
+    if (const auto mode = draw.one_of(offered.get_res_color_mem_list())) {
+        color.set_res_color_mem(mode.get());
+        if (const auto resolution = draw.one_of(mode->get_resolution_list()))
+            color.set_resolution(resolution.get());
+    }
+    if (const auto area = draw.one_of(offered.get_mem_area_list()))
+        color.set_installed_memory(area->get_device_memory());
+    color.set_hardsoftno_dithering(static_cast<PX_HardSoftNo_Dithering::Enum>(draw.below(3)));
+    color.set_rast_color_vs_res_pref(static_cast<long>(draw.below(120)));
+    color.set_dm_color(static_cast<long>(1 + draw.below(2)));
+    color.set_lines_overwrite(draw.chance(2));
+}
+
 void choose(Draw& draw, const PX_Media_Capabilities& offered, PX_Media_Configuration& media) {
     if (const auto type = draw.one_of(offered.get_media_type_list()))
         media.set_media_type(type.get());
@@ -363,6 +377,7 @@ private:
 
     static void clear_validated(const PX_Plotter_Configuration& configuration) {
         configuration.get_media_configuration()->set_validated(false);
+        configuration.get_res_color_mem_configuration()->set_validated(false);
         configuration.get_init_term_configuration()->set_validated(false);
     }
 
@@ -372,9 +387,12 @@ private:
             const auto configuration = plot_host::new_configuration(device);
             device.set_plotter_configuration(configuration.get());
             device.get_plotter_validator()->set_all_to_defaults();
-            if (m_files % 2 == 0)
-                choose(m_draw, *device.get_plotter_capabilities()->get_media_capabilities(),
-                       *configuration->get_media_configuration());
+            if (m_files % 2 == 0) {
+                const auto offered = device.get_plotter_capabilities();
+                choose(m_draw, *offered->get_media_capabilities(), *configuration->get_media_configuration());
+                choose(m_draw, *offered->get_res_color_mem_capabilities(),
+                       *configuration->get_res_color_mem_configuration());
+            }
             plot_host::save_choice(m_scratch, {"", m_where}, *configuration);
             std::ostringstream text;
             text << std::ifstream(m_scratch, std::ios::binary).rdbuf();

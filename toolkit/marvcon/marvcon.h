@@ -19,6 +19,7 @@
 #include "toolkit/marvcon/std_io_cfg.h"
 #include "toolkit/marvcon/std_media_cfg.h"
 #include "toolkit/marvcon/std_meta_cfg.h"
+#include "toolkit/marvcon/std_phys_pen_cfg.h"
 #include "toolkit/marvcon/std_plotter_def.h"
 #include "toolkit/marvcon/std_plotter_io.h"
 #include "toolkit/marvcon/std_plval.h"

@@ -5,6 +5,7 @@
 #include "toolkit/marvcon/std_init_term_cfg/interface.h"
 #include "toolkit/marvcon/std_io_cfg/interface.h"
 #include "toolkit/marvcon/std_media_cfg/interface.h"
+#include "toolkit/marvcon/std_phys_pen_cfg/interface.h"
 #include "toolkit/marvcon/std_plotter_def/pending.h"
 #include "toolkit/marvcon/std_res_color_mem_cfg/interface.h"
 

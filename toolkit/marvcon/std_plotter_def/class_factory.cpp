@@ -17,6 +17,10 @@
 #include "toolkit/marvcon/std_media_cfg/validator.h"
 #include "toolkit/marvcon/std_meta_cfg/capabilities.h"
 #include "toolkit/marvcon/std_meta_cfg/catalogue.h"
+#include "toolkit/marvcon/std_phys_pen_cfg/capabilities.h"
+#include "toolkit/marvcon/std_phys_pen_cfg/configuration.h"
+#include "toolkit/marvcon/std_phys_pen_cfg/pen.h"
+#include "toolkit/marvcon/std_phys_pen_cfg/validator.h"
 #include "toolkit/marvcon/std_plotter_def/capabilities.h"
 #include "toolkit/marvcon/std_plotter_def/configuration.h"
 #include "toolkit/marvcon/std_plotter_def/definition.h"
@@ -251,6 +255,27 @@ PX_Named_Object_List<PX_Family>* PX_Std_Plotter_Class_Factory::MK_Create_Family_
 
 PX_Meta_Capabilities* PX_Std_Plotter_Class_Factory::MK_Create_Meta_Capabilities() const {
     return create<PX_Std_Meta_Capabilities>();
+}
+
+PX_PhysPen_Capabilities* PX_Std_Plotter_Class_Factory::MK_Create_Pen_Capabilities() const {
+    return create<PX_Std_PhysPen_Capabilities>();
+}
+
+PX_PhysPen_Configuration* PX_Std_Plotter_Class_Factory::MK_Create_Pen_Configuration() const {
+    return create<PX_Std_PhysPen_Configuration>();
+}
+
+PX_Pen* PX_Std_Plotter_Class_Factory::MK_Create_Pen() const {
+    return create<PX_Std_Pen>();
+}
+
+PX_Named_Object_List<PX_Pen>* PX_Std_Plotter_Class_Factory::MK_Create_Pen_List() const {
+    return create<PX_Named_Object_List<PX_Pen>>();
+}
+
+PX_PhysPen_Validator* PX_Std_Plotter_Class_Factory::MK_Create_Pen_Validator(
+    PX_Plotter_Definition* plotter) const {
+    return create<PX_Std_PhysPen_Validator>(plotter);
 }
 
 PX_Mem_Area* PX_Std_Plotter_Class_Factory::MK_Create_Mem_Area() const {

@@ -68,27 +68,6 @@ PX_Linetype_Capabilities* PX_Std_Plotter_Class_Factory::MK_Create_Linetype_Capab
     return nullptr;
 }
 
-PX_PhysPen_Capabilities* PX_Std_Plotter_Class_Factory::MK_Create_Pen_Capabilities() const {
-    return nullptr;
-}
-
-PX_PhysPen_Configuration* PX_Std_Plotter_Class_Factory::MK_Create_Pen_Configuration() const {
-    return nullptr;
-}
-
-PX_Pen* PX_Std_Plotter_Class_Factory::MK_Create_Pen() const {
-    return nullptr;
-}
-
-PX_Named_Object_List<PX_Pen>* PX_Std_Plotter_Class_Factory::MK_Create_Pen_List() const {
-    return nullptr;
-}
-
-PX_PhysPen_Validator* PX_Std_Plotter_Class_Factory::MK_Create_Pen_Validator(
-    PX_Plotter_Definition* /*plotter*/) const {
-    return nullptr;
-}
-
 PX_Raster_Capabilities* PX_Std_Plotter_Class_Factory::MK_Create_Raster_Capabilities() const {
     return nullptr;
 }

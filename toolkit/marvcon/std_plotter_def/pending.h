@@ -6,13 +6,14 @@
 // What the library does not hold yet, all in this file and pending.cpp. Of each domain that is to come stands
 // here only what the frame itself calls, in no order that would hold: nothing is to be derived from it. The
 // domain takes its lines away when it brings its own contracts, its creators (pending.cpp) and its rows of
-// the walk: pens 5. With the last domain the two helpers go,
+// the walk. With the last domain the two helpers go,
 // and whatever still asks whether a domain is there fails to compile.
 
 // Whether a definition may do without this domain's validator.
 constexpr bool px_is_pending(PX_Domain_Mask::Enum domain) {
     return domain != PX_Domain_Mask::Init_Term && domain != PX_Domain_Mask::Media &&
-           domain != PX_Domain_Mask::IO && domain != PX_Domain_Mask::Res_Color_Mem;
+           domain != PX_Domain_Mask::IO && domain != PX_Domain_Mask::Phys_Pens &&
+           domain != PX_Domain_Mask::Res_Color_Mem;
 }
 
 // Calls a domain validator's operation, where the domain is there.
@@ -39,19 +40,12 @@ public:
     virtual Self* clone() const = 0;
 };
 
-class PX_PhysPen_Capabilities : public PX_Pending_Capabilities<PX_PhysPen_Capabilities> {};
 class PX_Raster_Capabilities : public PX_Pending_Capabilities<PX_Raster_Capabilities> {};
 class PX_Linetype_Capabilities : public PX_Pending_Capabilities<PX_Linetype_Capabilities> {};
 class PX_Custom_Capabilities : public PX_Pending_Capabilities<PX_Custom_Capabilities> {};
 
-class PX_PhysPen_Configuration : public PX_Pending_Configuration<PX_PhysPen_Configuration> {};
 class PX_Custom_Configurations : public PX_Pending_Configuration<PX_Custom_Configurations> {};
 
-class PX_PhysPen_Validator {
-public:
-    virtual ~PX_PhysPen_Validator() = default;
-    virtual void set_all_physpen_to_defaults() = 0;
-};
 class PX_Custom_Validator {
 public:
     virtual ~PX_Custom_Validator() = default;

@@ -42,6 +42,11 @@ public:
     bool is_listed(Flag ability) const {
         return this->capabilities->get_one_ability(ability) >= PX_Ability_Value::Ability_Settable_Listed;
     }
+    // Whether the datum has to be there.
+    template <class Flag>
+    bool is_required(Flag ability) const {
+        return this->capabilities->get_one_ability(ability) == PX_Ability_Value::Ability_Required;
+    }
 
     // The call of another operation, in the frame of this one.
     template <class Call>

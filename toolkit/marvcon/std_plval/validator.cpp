@@ -201,7 +201,7 @@ void PX_Std_Plotter_Validator::set_all_to_defaults() {
     // The name in the trace differs from the operation's on purpose.
     px_frame(L"PX_Std_Plotter_Validator::set_all_default", [&] {
         m_media_validator->set_all_media_to_defaults();
-        px_call_if_built(m_phys_pen_validator, &PX_PhysPen_Validator::set_all_physpen_to_defaults);
+        m_phys_pen_validator->set_all_physpen_to_defaults();
         m_res_color_mem_validator->set_all_res_color_mem_to_defaults();
         px_call_if_built(m_custom_validator, &PX_Custom_Validator::set_all_custom_to_defaults);
         m_init_term_validator->set_all_init_term_to_defaults();
@@ -216,7 +216,7 @@ void PX_Std_Plotter_Validator::set_selected_to_defaults(long mask) {
         if (mask & PX_Domain_Mask::IO)
             m_io_validator->set_all_io_to_defaults();
         if (mask & PX_Domain_Mask::Phys_Pens)
-            px_call_if_built(m_phys_pen_validator, &PX_PhysPen_Validator::set_all_physpen_to_defaults);
+            m_phys_pen_validator->set_all_physpen_to_defaults();
         if (mask & PX_Domain_Mask::Res_Color_Mem)
             m_res_color_mem_validator->set_all_res_color_mem_to_defaults();
         if (mask & PX_Domain_Mask::Init_Term)

@@ -6,6 +6,7 @@
 #include "toolkit/marvcon/std_init_term_cfg/interface.h"
 #include "toolkit/marvcon/std_io_cfg/interface.h"
 #include "toolkit/marvcon/std_media_cfg/interface.h"
+#include "toolkit/marvcon/std_phys_pen_cfg/interface.h"
 #include "toolkit/marvcon/std_plotter_def/pending.h"
 #include "toolkit/marvcon/std_plval/interface.h"
 #include "toolkit/marvcon/std_res_color_mem_cfg/interface.h"
@@ -75,6 +76,9 @@ protected:
     void validate_media_datum(PX_Media_Ability_Flags::Enum ability, PX_Media_Config_Flags::Enum datum,
                               void (PX_Media_Validator::*validate)(PX_Validation_Strategy::Enum),
                               void (PX_Media_Validator::*set_to_default)());
+    void validate_physpen_datum(PX_Pen_Ability_Flags::Enum ability, PX_Pen_Config_Flags::Enum datum,
+                                void (PX_PhysPen_Validator::*validate)(PX_Validation_Strategy::Enum),
+                                void (PX_PhysPen_Validator::*set_to_default)());
     void validate_rcm_datum(PX_ResColorMem_Ability_Flags::Enum ability,
                             PX_ResColorMem_Config_Flags::Enum datum,
                             void (PX_ResColorMem_Validator::*validate)(PX_Validation_Strategy::Enum),

@@ -2,6 +2,7 @@
 #include "toolkit/marvcon/std_init_term_cfg/domain.h"
 #include "toolkit/marvcon/std_io_cfg/domain.h"
 #include "toolkit/marvcon/std_media_cfg/domain.h"
+#include "toolkit/marvcon/std_phys_pen_cfg/domain.h"
 #include "toolkit/marvcon/std_plval/domain_objects.h"
 #include "toolkit/marvcon/std_plval/validator.h"
 #include "toolkit/marvcon/std_res_color_mem_cfg/domain.h"
@@ -34,6 +35,9 @@ struct Row {
 using MA = PX_Media_Ability_Flags;
 using MC = PX_Media_Config_Flags;
 using MV = PX_Media_Validator;
+using PA = PX_Pen_Ability_Flags;
+using PC = PX_Pen_Config_Flags;
+using PV = PX_PhysPen_Validator;
 using RA = PX_ResColorMem_Ability_Flags;
 using RC = PX_ResColorMem_Config_Flags;
 using RV = PX_ResColorMem_Validator;
@@ -59,6 +63,15 @@ constexpr Row<MV, MA, MC> media_rows[] = {
     {MA::Ability_Dm_Scale,                MC::Cfg_Dm_Scale,                &MV::validate_dm_scale,                &MV::set_dm_scale_to_default},
     {MA::Ability_Dm_Orientation,          MC::Cfg_Dm_Orientation,          &MV::validate_dm_orientation,          &MV::set_dm_orientation_to_default},
     {MA::Ability_Actual_Printable_Bounds, MC::Cfg_Actual_Printable_Bounds, &MV::validate_actual_printable_bounds, &MV::set_actual_printable_bounds_to_default},
+};
+
+// The optimization is gated by another ability than its default asks.
+constexpr Row<PV, PA, PC> pen_rows[] = {
+    {PA::Pen_Ability_Number,             PC::Pen_Config_Number,       &PV::validate_num_phys_pens,        &PV::set_num_phys_pens_to_default},
+    {PA::Pen_Ability_List,               PC::Pen_Config_List,         &PV::validate_pen_list,             &PV::set_pen_list_to_default},
+    {PA::Pen_Ability_Changing,           PC::Pen_Config_Changing,     &PV::validate_pen_changing,         &PV::set_pen_changing_to_default},
+    {PA::Pen_Ability_Area_Fill,          PC::Pen_Config_Area_Fill,    &PV::validate_area_fill_correction, &PV::set_area_fill_correction_to_default},
+    {PA::Pen_Ability_Optimization_Check, PC::Pen_Config_Optimization, &PV::validate_pen_optimization,     &PV::set_pen_optimization_to_default},
 };
 
 constexpr Row<RV, RA, RC> rcm_rows[] = {
@@ -100,6 +113,8 @@ constexpr Row<OV, OA, OC> io_rows[] = {
 void PX_Std_Plotter_Validator::walk_every_datum() {
     for (const auto& row : media_rows)
         validate_media_datum(row.ability, row.datum, row.validate, row.set_to_default);
+    for (const auto& row : pen_rows)
+        validate_physpen_datum(row.ability, row.datum, row.validate, row.set_to_default);
     for (const auto& row : rcm_rows)
         validate_rcm_datum(row.ability, row.datum, row.validate, row.set_to_default);
     for (const auto& row : init_term_rows)
@@ -142,6 +157,14 @@ void PX_Std_Plotter_Validator::validate_media_datum(
     void (PX_Media_Validator::*set_to_default)()) {
     validate_datum<PX_Media_Domain>(L"PX_Std_Plotter_Validator::validate_media_datum", *m_media_validator,
                                     ability, datum, validate, set_to_default);
+}
+
+void PX_Std_Plotter_Validator::validate_physpen_datum(
+    PX_Pen_Ability_Flags::Enum ability, PX_Pen_Config_Flags::Enum datum,
+    void (PX_PhysPen_Validator::*validate)(PX_Validation_Strategy::Enum),
+    void (PX_PhysPen_Validator::*set_to_default)()) {
+    validate_datum<PX_Pen_Domain>(L"PX_Std_Plotter_Validator::validate_physpen_datum", *m_phys_pen_validator,
+                                  ability, datum, validate, set_to_default);
 }
 
 void PX_Std_Plotter_Validator::validate_rcm_datum(

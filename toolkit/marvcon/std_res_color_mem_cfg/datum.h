@@ -22,8 +22,7 @@ inline PX_Smart_Pointer<PX_Dithering_Method> px_dithering_of(const PX_RCM_Datum&
 
 // Whether the device can print at the resolution: where it insists on dithering, the method has to be there.
 inline bool px_can_be_dithered(const PX_RCM_Datum& datum, const PX_Resolution& resolution) {
-    return datum.capabilities->get_one_ability(PX_ResColorMem_Ability_Flags::RCM_Dithering) !=
-               PX_Ability_Value::Ability_Required ||
+    return !datum.is_required(PX_ResColorMem_Ability_Flags::RCM_Dithering) ||
            px_is_there(px_dithering_of(datum, resolution));
 }
 

@@ -142,7 +142,7 @@ void PX_Std_ResColorMem_Validator::validate_HardSoftNo_Dithering(Strategy::Enum 
 
 void PX_Std_ResColorMem_Validator::validate_installed_memory(Strategy::Enum /*strategy*/) {
     const PX_RCM_Datum datum(m_plotter, L"PX_Std_ResColorMem_Validator::validate_installed_memory");
-    if (datum.capabilities->get_one_ability(Ability::RCM_Mem_Area) == PX_Ability_Value::Ability_Required) {
+    if (datum.is_required(Ability::RCM_Mem_Area)) {
         const auto mode = required_mode(datum);
         const auto resolution = required_resolution(datum, *mode);
         if (!is_memory_of_an_area(datum, *resolution))

@@ -44,6 +44,10 @@ TEST(Class_Factory, MakesTheStandardClasses) {
 #define ATOMS(name, Element) \
     expect_made<PX_Searchable_Atomic_Object_List<Element>>([&] { return factory.MK_Create_##name(); });
 #define BOTH(name) MADE(name) LIST(name##_List, PX_##name)
+    expect_made<PX_Std_PhysPen_Capabilities>([&] { return factory.MK_Create_Pen_Capabilities(); });
+    expect_made<PX_Std_PhysPen_Configuration>([&] { return factory.MK_Create_Pen_Configuration(); });
+    expect_made<PX_Std_PhysPen_Validator>([&] { return factory.MK_Create_Pen_Validator(plotter); });
+    BOTH(Pen)
     MADE(InitTerm_Capabilities) MADE(InitTerm_Configuration) MADE(InitTerm_Validator, plotter)
     ATOMS(Parity_List, PX_Parity::Enum) ATOMS(Handshake_List, PX_Handshake::Enum)
     MADE(Media_Capabilities) MADE(Media_Configuration) MADE(Media_Validator, plotter) MADE(Media_Settings)
@@ -216,7 +220,7 @@ TEST(Roots, AreClonedWholeAndInOrder) {
     set(caps, &A::set_res_color_mem_capabilities, Caps<PX_ResColorMem_Capabilities, PX_Std_ResColorMem_Capabilities>("rcm"));
     set(caps, &A::set_linetype_capabilities, Caps<PX_Linetype_Capabilities>("linetypes"));
     set(caps, &A::set_raster_capabilities, Caps<PX_Raster_Capabilities>("raster"));
-    set(caps, &A::set_phys_pen_capabilities, Caps<PX_PhysPen_Capabilities>("pens"));
+    set(caps, &A::set_phys_pen_capabilities, Caps<PX_PhysPen_Capabilities, PX_Std_PhysPen_Capabilities>("pens"));
     set(caps, &A::set_io_capabilities, Caps<PX_Plotter_IO_Capabilities, PX_Std_Plotter_IO_Capabilities>("io"));
     set(caps, &A::set_media_capabilities, Caps<PX_Media_Capabilities, PX_Std_Media_Capabilities>("media"));
     expect_cloned<A>(caps, "media io pens raster linetypes rcm init-term custom ", &A::get_media_capabilities,
@@ -228,7 +232,7 @@ TEST(Roots, AreClonedWholeAndInOrder) {
     EXPECT_TRUE(cfg.get_validated() && cfg.get_default()) << "nothing objects in an empty root";
     using B = PX_Plotter_Configuration;
     set(cfg, &B::set_custom_configuration, Cfg<PX_Custom_Configurations>("custom"));
-    set(cfg, &B::set_phys_pen_configuration, Cfg<PX_PhysPen_Configuration>("pens"));
+    set(cfg, &B::set_phys_pen_configuration, Cfg<PX_PhysPen_Configuration, PX_Std_PhysPen_Configuration>("pens"));
     set(cfg, &B::set_init_term_configuration, Cfg<PX_InitTerm_Configuration, PX_Std_InitTerm_Configuration>("init-term"));
     set(cfg, &B::set_res_color_mem_configuration, Cfg<PX_ResColorMem_Configuration, PX_Std_ResColorMem_Configuration>("rcm"));
     set(cfg, &B::set_io_configuration, Cfg<PX_Plotter_IO_Configuration, PX_Std_Plotter_IO_Configuration>("io"));

@@ -54,7 +54,11 @@ public:
     using PX_Std_Plotter_IO_Validator::PX_Std_Plotter_IO_Validator;
     TELLS(set_all_io_to_defaults, "io")
 };
-struct Recording_Pens : PX_PhysPen_Validator, PX_Object { TELLS(set_all_physpen_to_defaults, "pens") };
+class Recording_Pens : public PX_Std_PhysPen_Validator {
+public:
+    using PX_Std_PhysPen_Validator::PX_Std_PhysPen_Validator;
+    TELLS(set_all_physpen_to_defaults, "pens")
+};
 class Recording_RCM : public PX_Std_ResColorMem_Validator {
 public:
     using PX_Std_ResColorMem_Validator::PX_Std_ResColorMem_Validator;
@@ -86,7 +90,7 @@ class Recording_Custom : public PX_Custom_Validator, public PX_Object {
 struct Recording_Factory : PX_Std_Plotter_Class_Factory {
     MAKES(Media, Media_Validator, Recording_Media, plotter)
     MAKES(InitTerm, InitTerm_Validator, Recording_InitTerm, plotter)
-    MAKES(Pen, PhysPen_Validator, Recording_Pens)
+    MAKES(Pen, PhysPen_Validator, Recording_Pens, plotter)
     MAKES(Custom, Custom_Validator, Recording_Custom)
     MAKES(ResColorMem, ResColorMem_Validator, Recording_RCM, plotter)
     MAKES(Plotter_IO, Plotter_IO_Validator, Recording_IO, plotter)
@@ -192,6 +196,7 @@ TEST_F(Plotter_Validator, AnUndefinedAbilityEndsTheRunThere) {
 TEST_F(Plotter_Validator, ReportsWhatIsMissingWhereItIsNeeded) {
     constexpr const wchar_t* function = L"PX_Std_Plotter_Validator::validate_media_datum";
     m_device.media_caps()->set_abilities(PX_Ability_Value::Ability_Conditional);
+    m_device.pen_caps()->set_abilities(PX_Ability_Value::Ability_Conditional);
     m_device.init_term_caps()->set_abilities(PX_Ability_Value::Ability_Conditional);
     m_device.rcm_caps()->set_abilities(PX_Ability_Value::Ability_Conditional);
     m_device.io_caps()->set_abilities(PX_Ability_Value::Ability_Conditional);
@@ -310,6 +315,8 @@ TEST_F(Plotter_Validator, ARunOverValidatedDataAllocatesNothing) {
     device.media_cfg()->set_validated(true);
     device.rcm_caps()->set_abilities(PX_Ability_Value::Ability_Required);
     device.rcm_cfg()->set_validated(true);
+    device.pen_caps()->set_abilities(PX_Ability_Value::Ability_Required);
+    device.pen_cfg()->set_validated(true);
     const auto validator = device.validator();
     validator->validate_all(Strategy::Use_Nearest, Policy::Validate_Conditional, true);
     const auto before = support::allocation_count();

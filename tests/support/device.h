@@ -17,6 +17,7 @@ public:
         PX_Plotter_Capabilities* const caps = factory->MK_Create_Plotter_Capabilities(L"", L"", L"");
         plotter->set_plotter_capabilities(caps);
         caps->set_media_capabilities(PX_Smart_Pointer(factory->MK_Create_Media_Capabilities()).get());
+        caps->set_phys_pen_capabilities(PX_Smart_Pointer(factory->MK_Create_Pen_Capabilities()).get());
         caps->set_init_term_capabilities(PX_Smart_Pointer(factory->MK_Create_InitTerm_Capabilities()).get());
         caps->set_res_color_mem_capabilities(
             PX_Smart_Pointer<PX_ResColorMem_Capabilities>(factory->MK_Create_ResColorMem_Capabilities())
@@ -26,6 +27,7 @@ public:
         PX_Plotter_Configuration* const cfg = factory->MK_Create_Plotter_Configuration(L"", L"", L"");
         plotter->set_plotter_configuration(cfg);
         cfg->set_media_configuration(PX_Smart_Pointer(factory->MK_Create_Media_Configuration()).get());
+        cfg->set_phys_pen_configuration(PX_Smart_Pointer(factory->MK_Create_Pen_Configuration()).get());
         cfg->set_init_term_configuration(PX_Smart_Pointer(factory->MK_Create_InitTerm_Configuration()).get());
         cfg->set_res_color_mem_configuration(
             PX_Smart_Pointer<PX_ResColorMem_Configuration>(factory->MK_Create_ResColorMem_Configuration())
@@ -43,6 +45,12 @@ public:
     }
     PX_Smart_Pointer<PX_Media_Configuration> media_cfg() const {
         return m_plotter->get_plotter_configuration()->get_media_configuration();
+    }
+    PX_Smart_Pointer<PX_PhysPen_Capabilities> pen_caps() const {
+        return m_plotter->get_plotter_capabilities()->get_phys_pen_capabilities();
+    }
+    PX_Smart_Pointer<PX_PhysPen_Configuration> pen_cfg() const {
+        return m_plotter->get_plotter_configuration()->get_phys_pen_configuration();
     }
     PX_Smart_Pointer<PX_InitTerm_Capabilities> init_term_caps() const {
         return m_plotter->get_plotter_capabilities()->get_init_term_capabilities();

@@ -32,6 +32,13 @@ inline std::wstring show(const PX_Float_XY* value) {
     return value ? show(value->x) + L" " + show(value->y) : L"(null)";
 }
 
+inline std::wstring show(const PX_RGB32* color) {
+    if (!color)
+        return L"(null)";
+    return show(color->red) + L" " + show(color->green) + L" " + show(color->blue) + L" " +
+           show(color->alpha);
+}
+
 inline std::wstring show(const PX_Float_Rectangle* value) {
     const auto corner = [](float x, float y) { return show(x) + L" " + show(y); };
     return value ? corner(value->x_min, value->x_max) + L" " + corner(value->y_min, value->y_max) : L"(null)";
@@ -98,6 +105,7 @@ struct Setter_Words {
     std::wstring function;
     const wchar_t* detail;  // null where a null argument is no failure of a name
     const wchar_t* file;
+    const wchar_t* null_list;  // what a list reads as after null
 };
 
 // A null name is emptied first, then reported; a text that names nothing is only emptied.
@@ -114,7 +122,6 @@ void check_setter(Class& object, const wchar_t* (Class::*get)() const, void (Cla
 }
 
 // A list is copied deep and in order, the caller's stays the caller's. A failing copy leaves the old one.
-// Null is no list; where the failure has a detail, it is a new empty one.
 template <class Class, class Element, template <class> class List>
 void check_setter(Class& object, PX_Smart_Pointer<List<Element>> (Class::*get)() const,
                   void (Class::*set)(const List<Element>*), const List<Element>* list,
@@ -143,7 +150,7 @@ void check_setter(Class& object, PX_Smart_Pointer<List<Element>> (Class::*get)()
     }
     const auto before = (object.*get)();
     (object.*set)(nullptr);
-    EXPECT_TRUE(show((object.*get)()) == (words.detail ? L"list" : L"(null)") && (object.*get)() != before);
+    EXPECT_TRUE(show((object.*get)()) == words.null_list && (object.*get)() != before);
     const std::unique_ptr<Class> clone(object.clone());
     EXPECT_EQ(show(((*clone).*get)()), show((object.*get)()));
 }
@@ -214,6 +221,7 @@ template <class Class>
 struct Field {
     std::wstring setter;
     const wchar_t* null_detail;
+    const wchar_t* null_list;
     std::wstring start;
     std::wstring other;
     std::function<std::wstring(const Class&)> read;
@@ -228,8 +236,11 @@ using Fields = std::vector<Field<Class>>;
 template <class Class, class Value, class Argument>
 Field<Class> field(const wchar_t* setter, Value (Class::*get)() const, const wchar_t* start,
                    void (Class::*set)(Argument), std::type_identity_t<Argument> other,
-                   const wchar_t* null_detail = nullptr) {
-    Field<Class> row = {setter, null_detail, start, show(other), {}, {}, {}, {}};
+                   const wchar_t* null_detail = nullptr, const wchar_t* null_list = nullptr) {
+    // A list setter that says what it has no memory for makes a new list of null, unless the row tells.
+    if (!null_list)
+        null_list = null_detail ? L"list" : L"(null)";
+    Field<Class> row = {setter, null_detail, null_list, start, show(other), {}, {}, {}, {}};
     row.read = [get](const Class& object) { return show((object.*get)()); };
     row.write = [set, other](Class& object) { (object.*set)(other); };
     row.held = [](const Class&) { return nullptr; };
@@ -281,7 +292,8 @@ void check_fields(Class& object, const Fields<Class>& fields, const std::wstring
     expect_clone_reports_no_memory(object, class_name + L"::clone");
     for (const auto& field : fields) {
         SCOPED_TRACE(testing::PrintToString(field.setter));
-        field.check_setter(object, {class_name + L"::" + field.setter, field.null_detail, file});
+        field.check_setter(object,
+                           {class_name + L"::" + field.setter, field.null_detail, file, field.null_list});
     }
 }
 

@@ -16,6 +16,8 @@ PX_Smart_Pointer<PX_Plotter_Configuration> new_configuration(const PX_Plotter_De
     configuration->set_init_term_configuration(strings.get());
     const auto media = made(factory->MK_Create_Media_Configuration(), L"media_configuration");
     configuration->set_media_configuration(media.get());
+    const auto pens = made(factory->MK_Create_Pen_Configuration(), L"phys_pen_configuration");
+    configuration->set_phys_pen_configuration(pens.get());
     const auto quality = made(factory->MK_Create_ResColorMem_Configuration(), L"res_color_mem_configuration");
     configuration->set_res_color_mem_configuration(quality.get());
     const auto destination = made(factory->MK_Create_Plotter_IO_Configuration(), L"io_configuration");

@@ -109,17 +109,49 @@ const Drawing three_lines = {1135,
 TEST_F(Plots, PenPlotterTakesUpEachPenOnce) {
     const std::string expected =
         "\033.(\033.I81;;17:\033.N;19:\033%0BIN;\n"
-        "PU;SP1;\n"
+        "PU;SP1;PW0.35,1;VS36,1;\n"
         "PU1411,1411;PD395,1411;\n"
-        "PU;SP4;\n"
+        "PU;SP4;PW0.35,4;VS36,4;\n"
         "PU395,395;PD1411,395;\n"
         "PU395,395;PD395,903,903,903;\n"
         "PU;SP0;\n"
         "\033%0A\033.)";
     EXPECT_EQ(plotted(m_pens, pen_plotter_name, three_lines), expected);
-    EXPECT_EQ(nearest_pen({255, 0, 0}), 2);
-    EXPECT_EQ(nearest_pen({0, 128, 0}), 3);
-    EXPECT_EQ(nearest_pen({255, 165, 0}), 7);
+}
+
+// By colour first, then by width; as the choice has them, not as the plotter came.
+TEST_F(Plots, PenPlotterDrawsWithThePensOfTheChoice) {
+    const auto line = [](Drawing_Colour colour, double width) {
+        return Drawing_Line{{{0, 0}, {72, 0}}, colour, width};
+    };
+    const Drawing drawing{1135, 786, {line({255, 165, 0}, 1), line({255, 0, 0}, 1), line({0, 128, 0}, 1)}};
+    const auto pens_of = [&](const Drawing& drawn,
+                             const std::function<void(PX_Plotter_Configuration&)>& change) {
+        std::istringstream plot(plotted(m_pens, pen_plotter_name, drawn, change));
+        std::string pens;
+        for (std::string word; std::getline(plot, word, ';');)
+            pens += word.starts_with("SP") ? word.substr(2) : "";
+        return pens;
+    };
+    EXPECT_EQ(pens_of(drawing, {}), "2370");
+    EXPECT_EQ(pens_of(drawing,
+                      [](PX_Plotter_Configuration& configuration) {
+                          const auto pens = configuration.get_phys_pen_configuration();
+                          const PX_RGB32 orange(255, 160, 0, 255);
+                          pens->get_physical_pen_list()->find(L"1")->set_pen_color(&orange);
+                          pens->set_pen_optimization(0);
+                      }),
+              "1230")
+        << "as they are drawn";
+    const Drawing wide{1135, 786, {line({0, 0, 0}, 1), line({0, 0, 0}, 3)}};
+    EXPECT_EQ(pens_of(wide,
+                      [](PX_Plotter_Configuration& configuration) {
+                          const auto pen =
+                              configuration.get_phys_pen_configuration()->get_physical_pen_list()->find(L"8");
+                          pen->set_pen_color(nullptr);
+                          pen->set_pen_width(1);
+                      }),
+              "180");
 }
 
 // Turned, the left of the drawing lies at the bottom of the sheet.

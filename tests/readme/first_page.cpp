@@ -28,6 +28,8 @@ int main() {
         plotter->get_plotter_capabilities()->set_init_term_capabilities(strings.get());
         const PX_Smart_Pointer paper(factory->MK_Create_Media_Capabilities());
         plotter->get_plotter_capabilities()->set_media_capabilities(paper.get());
+        const PX_Smart_Pointer carousel(factory->MK_Create_Pen_Capabilities());
+        plotter->get_plotter_capabilities()->set_phys_pen_capabilities(carousel.get());
         const PX_Smart_Pointer colors(factory->MK_Create_ResColorMem_Capabilities());
         plotter->get_plotter_capabilities()->set_res_color_mem_capabilities(colors.get());
         const PX_Smart_Pointer ways_out(factory->MK_Create_Plotter_IO_Capabilities());
@@ -42,6 +44,8 @@ int main() {
         plotter->get_plotter_configuration()->set_init_term_configuration(choice.get());
         const PX_Smart_Pointer sheet(factory->MK_Create_Media_Configuration());
         plotter->get_plotter_configuration()->set_media_configuration(sheet.get());
+        const PX_Smart_Pointer pens(factory->MK_Create_Pen_Configuration());
+        plotter->get_plotter_configuration()->set_phys_pen_configuration(pens.get());
         const PX_Smart_Pointer quality(factory->MK_Create_ResColorMem_Configuration());
         plotter->get_plotter_configuration()->set_res_color_mem_configuration(quality.get());
         const PX_Smart_Pointer destination(factory->MK_Create_Plotter_IO_Configuration());

@@ -5,6 +5,7 @@
 #include "examples/common/text.h"
 #include "examples/common/ways_out.h"
 #include "examples/drivers/pen_plotter/media.h"
+#include "examples/drivers/pen_plotter/pens.h"
 
 namespace {
 
@@ -33,6 +34,9 @@ class Pen_Plotter_Factory : public PX_Std_Plotter_Class_Factory {
 public:
     PX_InitTerm_Validator* MK_Create_InitTerm_Validator(PX_Plotter_Definition* plotter) const override {
         return new Own_Strings_Validator(plotter, own_strings);
+    }
+    PX_PhysPen_Validator* MK_Create_Pen_Validator(PX_Plotter_Definition* plotter) const override {
+        return new Carousel_Validator(plotter);
     }
 };
 
@@ -67,6 +71,7 @@ public:
         m_plotter_capabilities->set_init_term_capabilities(
             own_strings_capabilities(own_strings, factory).get());
         m_plotter_capabilities->set_media_capabilities(pen_plotter_media(factory).get());
+        m_plotter_capabilities->set_phys_pen_capabilities(carousel_capabilities(factory).get());
         // Pens have their colours; there is no raster to choose for.
         m_plotter_capabilities->set_res_color_mem_capabilities(
             made(factory.MK_Create_ResColorMem_Capabilities(), L"res_color_mem_capabilities").get());

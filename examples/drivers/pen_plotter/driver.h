@@ -11,7 +11,8 @@ public:
                                                  PX_Smart_Pointer<PX_Error_Handler> handler) const override;
 
 protected:
-    // The lines of a pen together, in the order of the pens.
+    // With the pens of the choice. From the optimization level 1 the lines of a pen come together, in the
+    // order of the pens; at 0 as they are drawn.
     void draw(const PX_Plotter_Definition& device, const Drawing& drawing,
               Plot_Output& output) const override;
 };

@@ -64,6 +64,9 @@ Ppd_Definition::Ppd_Definition(PX_Smart_Pointer<PX_Error_Handler> handler,
     m_plotter_capabilities->set_init_term_capabilities(
         own_strings_capabilities(strings_of(*file), factory).get());
     m_plotter_capabilities->set_media_capabilities(ppd_media_capabilities(*file, factory).get());
+    // It has no pens.
+    m_plotter_capabilities->set_phys_pen_capabilities(
+        made(factory.MK_Create_Pen_Capabilities(), L"phys_pen_capabilities").get());
     m_plotter_capabilities->set_res_color_mem_capabilities(
         ppd_res_color_mem_capabilities(*file, factory).get());
     m_plotter_capabilities->set_io_capabilities(usual_ways_out(factory).get());

@@ -25,9 +25,8 @@ void add_line_settings(PX_IO_Method& method, const Serial_Settings& line,
                        const PX_Plotter_Class_Factory& factory) {
     const auto protocols = made(factory.MK_Create_Protocol_List(), L"protocols");
     for (const Line_Protocol& offered : line.protocols) {
-        const auto protocol = made(factory.MK_Create_Protocol(), L"protocol");
-        protocol->set_canonical_name(offered.name);
-        protocol->set_localized_name(offered.name);
+        const auto protocol =
+            made_named(factory.MK_Create_Protocol(), L"protocol", offered.name, offered.name);
         protocol->set_data_bits(offered.data_bits);
         protocol->set_parity(offered.parity);
         protocol->set_stop_bits(PX_Stop_Bits::Stop_Bits_1);

@@ -1,10 +1,8 @@
 #include "examples/plot_host/arguments.h"
 
 #include <CLI/CLI.hpp>
-#include <algorithm>
 #include <charconv>
 #include <filesystem>
-#include <iterator>
 #include <map>
 #include <stdexcept>
 #include <string>
@@ -13,16 +11,12 @@
 #include <utility>
 #include <vector>
 
+#include "examples/plot_host/words.h"
+
 namespace plot_host {
 namespace {
 
 namespace fs = std::filesystem;
-
-template <class Value>
-struct Word {
-    const char* word;
-    Value value;
-};
 
 using Strategy = PX_Validation_Strategy;
 constexpr Word<Strategy::Enum> strategies[] = {
@@ -39,19 +33,12 @@ constexpr Word<Policy::Enum> policies[] = {
 };
 
 template <class Value, std::size_t count>
-const char* word_in(const Word<Value> (&words)[count], Value value) {
-    return std::ranges::find(words, value, &Word<Value>::value)->word;
-}
-
-template <class Value, std::size_t count>
 void add_choice_of(CLI::App& app, const char* option, const Word<Value> (&words)[count], Value& value,
                    const char* description) {
     std::vector<std::string> allowed;
     for (const auto& word : words)
         allowed.emplace_back(word.word);
-    const auto store = [&](const std::string& word) {
-        value = std::ranges::find(words, word, &Word<Value>::word)->value;
-    };
+    const auto store = [&](const std::string& word) { value = value_in(words, word).value(); };
     app.add_option_function<std::string>(option, store, description)
         ->check(CLI::IsMember(allowed))
         ->default_str(word_in(words, value));

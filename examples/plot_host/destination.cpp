@@ -2,22 +2,18 @@
 
 #include <algorithm>
 #include <cctype>
-#include <iterator>
 #include <stdexcept>
 
 #include "examples/common/made.h"
 #include "examples/common/text.h"
+#include "examples/plot_host/words.h"
 
 namespace plot_host {
 namespace {
 
-struct Kind_Word {
-    const char* word;
-    Destination::Kind kind;
-};
-constexpr Kind_Word kinds[] = {{"file", Destination::Kind::File},
-                               {"port", Destination::Kind::Port},
-                               {"queue", Destination::Kind::Queue}};
+constexpr Word<Destination::Kind> kinds[] = {{"file", Destination::Kind::File},
+                                             {"port", Destination::Kind::Port},
+                                             {"queue", Destination::Kind::Queue}};
 
 // "com1:" is COM1.
 std::string port_name_of(std::string name) {
@@ -61,16 +57,15 @@ PX_Smart_Pointer<PX_Plotter_IO_Configuration> output_of(const PX_Plotter_Definit
 
 Destination destination_of(const std::string& words) {
     const std::size_t colon = words.find(':');
-    const auto kind = std::ranges::find(kinds, words.substr(0, colon), &Kind_Word::word);
-    if (colon == std::string::npos || kind == std::end(kinds) || colon + 1 == words.size())
+    const auto kind = value_in(kinds, words.substr(0, colon));
+    if (colon == std::string::npos || !kind || colon + 1 == words.size())
         throw std::runtime_error("--to takes file:PATH, port:NAME or queue:NAME, not '" + words + "'");
     const std::string name = words.substr(colon + 1);
-    return {kind->kind, kind->kind == Destination::Kind::Port ? port_name_of(name) : name};
+    return {*kind, *kind == Destination::Kind::Port ? port_name_of(name) : name};
 }
 
 std::string shown(const Destination& destination) {
-    const auto kind = std::ranges::find(kinds, destination.kind, &Kind_Word::kind);
-    return std::string(kind->word).append(" ").append(text::on_one_line(destination.name));
+    return std::string(word_in(kinds, destination.kind)) + " " + text::on_one_line(destination.name);
 }
 
 void choose_destination(PX_Plotter_Definition& device, const Destination& destination) {

@@ -124,21 +124,18 @@ void finish(std::ostream& out) {
         throw std::runtime_error("the report cannot be written");
 }
 
-Exit_Code plot(const Arguments& arguments, const Drawing& drawing, const Driver& driver,
-               PX_Plotter_Definition& device, const PX_Smart_Pointer<Host_Error_Handler>& handler,
-               Host_Platform& platform, std::ostream& out, std::ostream& err, User user) {
-    const Destination destination = settle_destination(device, *arguments.to, arguments.drawing);
+Exit_Code plot(const Arguments& arguments, const Drawing& drawing, const Session& session) {
+    const Destination destination = settle_destination(session.device, *arguments.to, arguments.drawing);
     if (destination != *arguments.to) {
-        err << "plot_host: " << shown(*arguments.to) << " cannot be used; the choice goes to "
-            << shown(destination) << " instead"
-            << (arguments.any_destination ? "" : ", where nothing was sent") << '\n';
+        session.err << "plot_host: " << shown(*arguments.to) << " cannot be used; the choice goes to "
+                    << shown(destination) << " instead"
+                    << (arguments.any_destination ? "" : ", where nothing was sent") << '\n';
         if (!arguments.any_destination)
             return Other_Destination;
     }
-    out << '\n';
-    finish(out);
-    return send_plot({drawing, arguments.drawing, destination, user}, driver, device, handler, platform, out,
-                     err);
+    session.out << '\n';
+    finish(session.out);
+    return send_plot({drawing, arguments.drawing, destination}, session);
 }
 
 }  // namespace
@@ -162,7 +159,7 @@ Exit_Code run(int count, const char* const* words, const Find_Driver& find_drive
             const auto device = driver.open(arguments->device, handler.get());
             reconcile(*arguments, *device, out);
             if (drawing)
-                code = plot(*arguments, *drawing, driver, *device, handler, platform, out, err, user);
+                code = plot(*arguments, *drawing, {driver, *device, platform, handler, out, err, user});
         }
         finish(out);
         return code;

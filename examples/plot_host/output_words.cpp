@@ -1,16 +1,11 @@
 #include "examples/plot_host/output_words.h"
 
-#include <algorithm>
-#include <iterator>
+#include "examples/plot_host/words.h"
 
 namespace plot_host {
 namespace {
 
-struct Type_Word {
-    const char* word;
-    PX_IO_Type::Enum type;
-};
-constexpr Type_Word types[] = {
+constexpr Word<PX_IO_Type::Enum> types[] = {
     {"none", PX_IO_Type::No_IO_Type},
     {"driver method", PX_IO_Type::Driver_Method},
     {"driver", PX_IO_Type::Driver_Plain},
@@ -21,12 +16,8 @@ constexpr Type_Word types[] = {
     {"network", PX_IO_Type::Network},
 };
 
-struct Handshake_Word {
-    const char* word;
-    long bit;
-};
 using Handshake = PX_Handshake;
-constexpr Handshake_Word handshakes[] = {
+constexpr Word<long> handshakes[] = {
     {"XON/XOFF in", Handshake::Handshake_Xon_In},    {"XON/XOFF out", Handshake::Handshake_Xon_Out},
     {"CTS out", Handshake::Handshake_Cts_Out},       {"RTS off", Handshake::Handshake_Rts_Disable},
     {"RTS on", Handshake::Handshake_Rts_Enable},     {"RTS", Handshake::Handshake_Rts_Handshake},
@@ -38,24 +29,15 @@ constexpr Handshake_Word handshakes[] = {
 }  // namespace
 
 const char* word_of(PX_IO_Type::Enum type) {
-    const auto found = std::ranges::find(types, type, &Type_Word::type);
-    return found == std::end(types) ? types[0].word : found->word;
+    return word_in(types, type, "none");
 }
 
 std::optional<PX_IO_Type::Enum> io_type_of(std::string_view word) {
-    const auto found = std::ranges::find(types, word, &Type_Word::word);
-    if (found == std::end(types))
-        return std::nullopt;
-    return found->type;
+    return value_in(types, word);
 }
 
 std::string handshake_words(long handshake) {
-    std::string words;
-    for (const auto& [word, bit] : handshakes) {
-        if (handshake & bit)
-            words.append(words.empty() ? "" : ", ").append(word);
-        handshake &= ~bit;
-    }
+    std::string words = take_words(handshakes, handshake, ", ");
     if (handshake != 0)
         words.append(words.empty() ? "" : ", ").append("bits " + std::to_string(handshake));
     return words.empty() ? "none" : words;

@@ -5,8 +5,10 @@
 #include <iomanip>
 #include <sstream>
 #include <string_view>
+#include <utility>
 
 #include "examples/common/text.h"
+#include "examples/plot_host/words.h"
 
 namespace plot_host {
 namespace {
@@ -16,31 +18,30 @@ std::string quoted(const wchar_t* name) {
 }
 
 // All of them, in the order of the report.
-std::vector<Datum> all_data() {
+std::vector<Datum> all_data(const PX_Plotter_Configuration& configuration) {
     std::vector<Datum> all;
-    for (const std::span<const Datum> domain : {media_data(), color_data(), output_data(), init_term_data()})
-        all.insert(all.end(), domain.begin(), domain.end());
+    for (const auto data_of : {media_data, color_data, output_data, init_term_data}) {
+        for (Datum& datum : data_of(configuration))
+            all.push_back(std::move(datum));
+    }
     return all;
 }
 
-const char* word_for(PX_Ability_Value::Enum ability) {
-    switch (ability) {
-        case PX_Ability_Value::Ability_None:
-            return "none";
-        case PX_Ability_Value::Ability_Fixed:
-            return "fixed";
-        case PX_Ability_Value::Ability_Settable:
-            return "settable";
-        case PX_Ability_Value::Ability_Conditional:
-            return "conditional";
-        case PX_Ability_Value::Ability_Settable_Listed:
-            return "listed";
-        case PX_Ability_Value::Ability_Required:
-            return "required";
-        default:
-            return "undefined";
-    }
+// What it was; nothing for a datum that was not there.
+Words former(const Snapshot& before, const std::string& name) {
+    const auto found = std::ranges::find(before, name, &Value::name);
+    return found == before.end() ? Words{"", "(none)"} : Words{found->exact, found->shown};
 }
+
+using Ability = PX_Ability_Value;
+constexpr Word<Ability::Enum> abilities[] = {
+    {"none", Ability::Ability_None},
+    {"fixed", Ability::Ability_Fixed},
+    {"settable", Ability::Ability_Settable},
+    {"conditional", Ability::Ability_Conditional},
+    {"listed", Ability::Ability_Settable_Listed},
+    {"required", Ability::Ability_Required},
+};
 
 const char* yes_or_no(bool yes) {
     return yes ? "yes" : "no";
@@ -62,28 +63,19 @@ void print_table(std::ostream& out, const std::vector<Row>& rows) {
     }
 }
 
-struct Domain {
-    long bit;
-    const char* name;
-};
-
-constexpr Domain domains[] = {
-    {PX_Domain_Mask::Media, "media"},
-    {PX_Domain_Mask::IO, "output"},
-    {PX_Domain_Mask::Phys_Pens, "pens"},
-    {PX_Domain_Mask::Res_Color_Mem, "resolution, colour and memory"},
-    {PX_Domain_Mask::Init_Term, "init and term strings"},
-    {PX_Domain_Mask::Custom, "custom data"},
-    {PX_Domain_Mask::Raster, "raster"},
-    {PX_Domain_Mask::Linetype, "linetypes"},
+constexpr Word<long> domains[] = {
+    {"media", PX_Domain_Mask::Media},
+    {"output", PX_Domain_Mask::IO},
+    {"pens", PX_Domain_Mask::Phys_Pens},
+    {"resolution, colour and memory", PX_Domain_Mask::Res_Color_Mem},
+    {"init and term strings", PX_Domain_Mask::Init_Term},
+    {"custom data", PX_Domain_Mask::Custom},
+    {"raster", PX_Domain_Mask::Raster},
+    {"linetypes", PX_Domain_Mask::Linetype},
 };
 
 std::string domain_names(long mask) {
-    std::string names;
-    for (const Domain& domain : domains) {
-        if (mask & domain.bit)
-            names.append(names.empty() ? "" : "; ").append(domain.name);
-    }
+    const std::string names = take_words(domains, mask, "; ");
     return names.empty() ? "none" : names;
 }
 
@@ -121,9 +113,21 @@ Words& Words::text(std::string_view text) {
     return *this;
 }
 
+Words words_of(const wchar_t* name) {
+    return Words().name(name);
+}
+
+Words words_of(bool yes) {
+    return Words().text(yes_or_no(yes));
+}
+
+Words words_of(const PX_Smart_Pointer<PX_Float_Rectangle>& bounds) {
+    return Words().bounds(*bounds);
+}
+
 Snapshot take_snapshot(const PX_Plotter_Configuration& configuration) {
     Snapshot snapshot;
-    for (const Datum& datum : all_data()) {
+    for (const Datum& datum : all_data(configuration)) {
         snapshot.push_back(datum.value(configuration));
         snapshot.back().name = datum.name;
     }
@@ -134,22 +138,22 @@ void print_data(std::ostream& out, const PX_Plotter_Definition& device, const Sn
     const auto capabilities = device.get_plotter_capabilities();
     const auto configuration = device.get_plotter_configuration();
     const auto validator = device.get_plotter_validator();
-    const Snapshot after = take_snapshot(*configuration);
 
-    const std::vector<Datum> data = all_data();
+    const std::vector<Datum> data = all_data(*configuration);
     std::vector<Row> rows = {{"Datum", "Ability", "Outcome", "Change bit", "Validated", "Default", "Value"}};
     int changed = 0;
     int silent = 0;
-    for (std::size_t at = 0; at < data.size(); ++at) {
-        const Datum& datum = data[at];
+    for (const Datum& datum : data) {
         const State state = datum.state(*capabilities, *configuration);
-        const bool differs = before[at].exact != after[at].exact;
-        const bool raised = (((*validator).*datum.change_word)() & datum.change_bit) != 0;
-        rows.push_back({datum.name, word_for(state.ability), differs ? "changed" : "kept",
-                        raised ? "raised" : "none", yes_or_no(state.validated), yes_or_no(state.is_default),
-                        (differs ? "was " : "is  ") + before[at].shown});
+        const Words was = former(before, datum.name);
+        const Value now = datum.value(*configuration);
+        const bool differs = was.exact != now.exact;
+        const bool raised = (((*validator).*datum.change_word)() & datum.change_bits) != 0;
+        rows.push_back({datum.name, word_in(abilities, state.ability, "undefined"),
+                        differs ? "changed" : "kept", raised ? "raised" : "none", yes_or_no(state.validated),
+                        yes_or_no(state.is_default), (differs ? "was " : "is  ") + was.shown});
         if (differs)
-            rows.push_back({"", "", "", "", "", "", "now " + after[at].shown});
+            rows.push_back({"", "", "", "", "", "", "now " + now.shown});
         changed += differs;
         silent += differs && !raised;
     }

@@ -1,4 +1,5 @@
 #include "examples/plot_host/report_data.h"
+#include "examples/plot_host/words.h"
 
 namespace plot_host {
 namespace {
@@ -25,73 +26,56 @@ Words words_of_resolution(const Color& color) {
     words.exact += Words().extent("", *had->get_addr_resolution_xy()).exact;
     return words;
 }
+
+using Dithering = PX_HardSoftNo_Dithering;
+constexpr Word<Dithering::Enum> ditherings[] = {
+    {"none", Dithering::No_Dithering},
+    {"by software", Dithering::Soft_Dithering},
+    {"by the device", Dithering::Hard_Dithering},
+};
 Words words_of_dithering(const Color& color) {
-    switch (color.get_hardsoftno_dithering()) {
-        case PX_HardSoftNo_Dithering::No_Dithering:
-            return Words().text("none");
-        case PX_HardSoftNo_Dithering::Soft_Dithering:
-            return Words().text("by software");
-        case PX_HardSoftNo_Dithering::Hard_Dithering:
-            return Words().text("by the device");
-        default:
-            return Words().number("", color.get_hardsoftno_dithering());
-    }
-}
-Words words_of_overwriting(const Color& color) {
-    return Words().text(color.get_lines_overwrite() ? "yes" : "no");
+    const auto dithering = color.get_hardsoftno_dithering();
+    const char* const word = word_in(ditherings, dithering, nullptr);
+    return word ? Words().text(word) : Words().number("", dithering);
 }
 // The configuration holds nothing for it.
 Words words_of_nothing(const Color&) {
     return Words().text("(no value)");
 }
-template <auto get>
-Words words_of_number(const Color& color) {
-    return Words().number("", static_cast<double>((color.*get)()));
-}
 
-template <Words (*words)(const Color&), Ability::Enum ability, Cfg::Enum flag>
-constexpr Datum color_row(const char* name) {
-    constexpr auto value = [](const PX_Plotter_Configuration& configuration) {
-        const Words told = words(*configuration.get_res_color_mem_configuration());
-        return Value{told.exact, told.shown};
-    };
-    constexpr auto state = [](const PX_Plotter_Capabilities& capabilities,
-                              const PX_Plotter_Configuration& configuration) {
-        const auto color = configuration.get_res_color_mem_configuration();
-        return State{capabilities.get_res_color_mem_capabilities()->get_one_ability(ability),
-                     color->get_one_validated(flag), color->get_one_default(flag)};
-    };
-    return {name, value, state, &PX_Plotter_Validator::get_res_color_mem_cfg_changes, 1L << flag};
-}
+using Domain = Report_Domain<&PX_Plotter_Configuration::get_res_color_mem_configuration,
+                             &PX_Plotter_Capabilities::get_res_color_mem_capabilities,
+                             &PX_Plotter_Validator::get_res_color_mem_cfg_changes>;
 
-constexpr Datum data[] = {
-    color_row<words_of_mode, Ability::RCM_Res_Color_Mem, Cfg::RCM_Cfg_Res_Color_Mem>("Colour mode"),
-    color_row<words_of_resolution, Ability::RCM_Resolution, Cfg::RCM_Cfg_Resolution>("Resolution"),
-    color_row<words_of_dithering, Ability::RCM_HardSoftNo_Dithering, Cfg::RCM_Cfg_HardSoftNo_Dithering>(
-        "Dithering"),
-    color_row<words_of_overwriting, Ability::RCM_Lines_Overwrite, Cfg::RCM_Cfg_Lines_Overwrite>(
-        "Lines overwrite"),
-    color_row<words_of_nothing, Ability::RCM_Color_Vs_Mono, Cfg::RCM_Cfg_Color_Vs_Mono>("Colour or mono"),
-    color_row<words_of_number<&Color::get_rast_color_vs_res_pref>, Ability::RCM_Rast_Color_Vs_Res_Pref,
-              Cfg::RCM_Cfg_Rast_Color_Vs_Res_Pref>("Raster preference"),
-    color_row<words_of_number<&Color::get_installed_memory>, Ability::RCM_Installed_Memory,
-              Cfg::RCM_Cfg_Installed_Memory>("Installed memory"),
-    color_row<words_of_number<&Color::get_ISM_max_mem>, Ability::RCM_ISM_Max_Mem, Cfg::RCM_Cfg_ISM_Max_Mem>(
-        "First memory limit"),
-    color_row<words_of_number<&Color::get_OLE_max_mem>, Ability::RCM_OLE_Max_Mem, Cfg::RCM_Cfg_OLE_Max_Mem>(
-        "Second memory limit"),
-    color_row<words_of_number<&Color::get_icm_method>, Ability::RCM_Icm_Method, Cfg::RCM_Cfg_Icm_Method>(
-        "Colour management"),
-    color_row<words_of_number<&Color::get_icm_intent>, Ability::RCM_Icm_Intent, Cfg::RCM_Cfg_Icm_Intent>(
-        "Colour intent"),
-    color_row<words_of_number<&Color::get_dm_color>, Ability::RCM_Dm_Color, Cfg::RCM_Cfg_Dm_Color>(
-        "Device-mode colour"),
-};
+template <auto source, Ability::Enum ability, Cfg::Enum flag>
+Datum color_row(const char* name) {
+    return Domain::row<source, ability, flag>(name, 1L << flag);
+}
 
 }  // namespace
 
-std::span<const Datum> color_data() {
-    return data;
+std::vector<Datum> color_data(const PX_Plotter_Configuration& /*configuration*/) {
+    return {
+        color_row<words_of_mode, Ability::RCM_Res_Color_Mem, Cfg::RCM_Cfg_Res_Color_Mem>("Colour mode"),
+        color_row<words_of_resolution, Ability::RCM_Resolution, Cfg::RCM_Cfg_Resolution>("Resolution"),
+        color_row<words_of_dithering, Ability::RCM_HardSoftNo_Dithering, Cfg::RCM_Cfg_HardSoftNo_Dithering>(
+            "Dithering"),
+        color_row<&Color::get_lines_overwrite, Ability::RCM_Lines_Overwrite, Cfg::RCM_Cfg_Lines_Overwrite>(
+            "Lines overwrite"),
+        color_row<words_of_nothing, Ability::RCM_Color_Vs_Mono, Cfg::RCM_Cfg_Color_Vs_Mono>("Colour or mono"),
+        color_row<&Color::get_rast_color_vs_res_pref, Ability::RCM_Rast_Color_Vs_Res_Pref,
+                  Cfg::RCM_Cfg_Rast_Color_Vs_Res_Pref>("Raster preference"),
+        color_row<&Color::get_installed_memory, Ability::RCM_Installed_Memory, Cfg::RCM_Cfg_Installed_Memory>(
+            "Installed memory"),
+        color_row<&Color::get_ISM_max_mem, Ability::RCM_ISM_Max_Mem, Cfg::RCM_Cfg_ISM_Max_Mem>(
+            "First memory limit"),
+        color_row<&Color::get_OLE_max_mem, Ability::RCM_OLE_Max_Mem, Cfg::RCM_Cfg_OLE_Max_Mem>(
+            "Second memory limit"),
+        color_row<&Color::get_icm_method, Ability::RCM_Icm_Method, Cfg::RCM_Cfg_Icm_Method>(
+            "Colour management"),
+        color_row<&Color::get_icm_intent, Ability::RCM_Icm_Intent, Cfg::RCM_Cfg_Icm_Intent>("Colour intent"),
+        color_row<&Color::get_dm_color, Ability::RCM_Dm_Color, Cfg::RCM_Cfg_Dm_Color>("Device-mode colour"),
+    };
 }
 
 }  // namespace plot_host

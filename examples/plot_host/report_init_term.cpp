@@ -20,29 +20,12 @@ std::string escaped(std::string_view bytes) {
     return shown;
 }
 
-template <auto get_string, PX_InitTerm_Ability_Flags::Enum flag>
-constexpr Datum init_term_row(const char* name) {
-    constexpr auto value = [](const PX_Plotter_Configuration& configuration) {
-        const auto string = ((*configuration.get_init_term_configuration()).*get_string)();
-        return Value{string ? "string " + std::string(bytes_of(*string)) : "none", readable(string.get())};
-    };
-    constexpr auto state = [](const PX_Plotter_Capabilities& capabilities,
-                              const PX_Plotter_Configuration& configuration) {
-        const auto strings = configuration.get_init_term_configuration();
-        return State{capabilities.get_init_term_capabilities()->get_one_ability(flag),
-                     strings->get_one_validated(flag), strings->get_one_default(flag)};
-    };
-    return {name, value, state, &PX_Plotter_Validator::get_init_term_cfg_changes, 0};
-}
-
 using Strings = PX_InitTerm_Configuration;
 using String_Flag = PX_InitTerm_Ability_Flags;
 
-constexpr Datum data[] = {
-    init_term_row<&Strings::get_preinit_string, String_Flag::Preinit_String>("Preinit string"),
-    init_term_row<&Strings::get_postinit_string, String_Flag::Postinit_String>("Postinit string"),
-    init_term_row<&Strings::get_termination_string, String_Flag::Termination_String>("Termination string"),
-};
+using Domain = Report_Domain<&PX_Plotter_Configuration::get_init_term_configuration,
+                             &PX_Plotter_Capabilities::get_init_term_capabilities,
+                             &PX_Plotter_Validator::get_init_term_cfg_changes>;
 
 }  // namespace
 
@@ -59,8 +42,19 @@ std::string readable(const PX_Dev_String* string) {
            "\" (" + std::to_string(bytes.size()) + " bytes)";
 }
 
-std::span<const Datum> init_term_data() {
-    return data;
+Words words_of(const PX_Smart_Pointer<PX_Dev_String>& string) {
+    return {string ? "string " + std::string(bytes_of(*string)) : "none", readable(string.get())};
+}
+
+std::vector<Datum> init_term_data(const PX_Plotter_Configuration& /*configuration*/) {
+    return {
+        Domain::row<&Strings::get_preinit_string, String_Flag::Preinit_String, String_Flag::Preinit_String>(
+            "Preinit string", 0),
+        Domain::row<&Strings::get_postinit_string, String_Flag::Postinit_String,
+                    String_Flag::Postinit_String>("Postinit string", 0),
+        Domain::row<&Strings::get_termination_string, String_Flag::Termination_String,
+                    String_Flag::Termination_String>("Termination string", 0),
+    };
 }
 
 }  // namespace plot_host

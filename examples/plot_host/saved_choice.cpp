@@ -10,65 +10,13 @@
 #include <system_error>
 #include <vector>
 
-#include "examples/common/text.h"
-#include "examples/plot_host/saved_color.h"
-#include "examples/plot_host/saved_field.h"
-#include "examples/plot_host/saved_media.h"
-#include "examples/plot_host/saved_output.h"
+#include "examples/plot_host/saved_domains.h"
 
 namespace plot_host {
 namespace {
 
-json text_of(const PX_Dev_String* string) {
-    if (!string)
-        return nullptr;
-    return text::to_utf8(std::wstring(string->data(), string->data() + string->length()));
-}
-
-struct Device_String {
-    const char* key;
-    PX_Smart_Pointer<PX_Dev_String> (PX_InitTerm_Configuration::*get)() const;
-    void (PX_InitTerm_Configuration::*set)(const PX_Dev_String*);
-};
-
-const Device_String device_strings[] = {
-    {"preinit_string", &PX_InitTerm_Configuration::get_preinit_string,
-     &PX_InitTerm_Configuration::set_preinit_string},
-    {"postinit_string", &PX_InitTerm_Configuration::get_postinit_string,
-     &PX_InitTerm_Configuration::set_postinit_string},
-    {"termination_string", &PX_InitTerm_Configuration::get_termination_string,
-     &PX_InitTerm_Configuration::set_termination_string},
-};
-
-void read_init_term(const Field& domain, const PX_Plotter_Configuration& into) {
-    const auto strings = into.get_init_term_configuration();
-    for (const auto& [key, field] : domain.members(keys_of(device_strings))) {
-        const std::optional<PX_Dev_String> string = field.device_string();
-        const auto row = std::ranges::find(device_strings, key, &Device_String::key);
-        ((*strings).*row->set)(string ? &*string : nullptr);
-    }
-}
-
-json write_init_term(const PX_Plotter_Configuration& choice) {
-    json domain;
-    const auto strings = choice.get_init_term_configuration();
-    for (const Device_String& row : device_strings)
-        domain[row.key] = text_of(((*strings).*row.get)().get());
-    return domain;
-}
-
-struct Domain {
-    const char* key;
-    void (*read)(const Field&, const PX_Plotter_Configuration&);
-    json (*write)(const PX_Plotter_Configuration&);
-};
-
-constexpr Domain domains[] = {
-    {"media", read_saved_media, write_saved_media},
-    {"color", read_saved_color, write_saved_color},
-    {"output", read_saved_output, write_saved_output},
-    {"init_term", read_init_term, write_init_term},
-};
+// In the order of the file. Beside its row a domain has its file, and its name in saved_domains.h.
+const Saved_Domain domains[] = {saved_media, saved_color, saved_output, saved_init_term};
 
 Saved_Device read_device(const Field& field) {
     Saved_Device device;
@@ -88,7 +36,7 @@ Saved_Device read_choice(const json& document, const PX_Plotter_Configuration& i
         if (key == "device")
             device = read_device(field);
         else
-            std::ranges::find(domains, key, &Domain::key)->read(field, into);
+            std::ranges::find(domains, key, &Saved_Domain::key)->read(field, into);
     }
     if (!device)
         file.reject("has no field 'device'");
@@ -179,7 +127,7 @@ void save_choice(const std::filesystem::path& path, const Saved_Device& device,
                  const PX_Plotter_Configuration& choice) {
     json document;
     document["device"] = {{"maker", device.maker}, {"model", device.model}};
-    for (const Domain& domain : domains)
+    for (const Saved_Domain& domain : domains)
         document[domain.key] = domain.write(choice);
     try {
         refuse_non_finite(document, "");

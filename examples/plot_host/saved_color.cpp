@@ -1,6 +1,3 @@
-#include "examples/plot_host/saved_color.h"
-
-#include "examples/common/made.h"
 #include "examples/plot_host/saved_rows.h"
 
 namespace plot_host {
@@ -35,38 +32,11 @@ constexpr Row<C> value_rows[] = {
     value_row<&C::get_lines_overwrite, &C::set_lines_overwrite>("lines_overwrite"),
 };
 
-constexpr const char* snapshot_key = "snapshot";
-
-std::vector<std::string> all_keys() {
-    std::vector<std::string> keys = keys_of(name_rows);
-    for (const std::string& key : keys_of(value_rows))
-        keys.push_back(key);
-    keys.emplace_back(snapshot_key);
-    return keys;
-}
-
 }  // namespace
 
-void read_saved_color(const Field& domain, const PX_Plotter_Configuration& into) {
-    const auto configuration = into.get_res_color_mem_configuration();
-    const auto members = domain.members(all_keys());
-    const auto snapshot = made(configuration->get_rescolormem_settings()->clone(), L"snapshot");
-    read_rows(name_rows, members, *configuration);
-    for (const auto& [key, field] : members) {
-        if (key == snapshot_key)
-            read_rows(snapshot_rows, field.members(keys_of(snapshot_rows)), *snapshot);
-    }
-    configuration->set_rescolormem_settings(snapshot.get());
-    read_rows(value_rows, members, *configuration);
-}
-
-json write_saved_color(const PX_Plotter_Configuration& choice) {
-    const C& configuration = *choice.get_res_color_mem_configuration();
-    json domain;
-    write_rows(name_rows, configuration, domain);
-    write_rows(value_rows, configuration, domain);
-    write_rows(snapshot_rows, *configuration.get_rescolormem_settings(), domain[snapshot_key]);
-    return domain;
-}
+constexpr Saved_Domain saved_color =
+    domain_of_names<&PX_Plotter_Configuration::get_res_color_mem_configuration, name_rows,
+                    Snapshot_Of<&C::get_rescolormem_settings, &C::set_rescolormem_settings, snapshot_rows>,
+                    value_rows>("color");
 
 }  // namespace plot_host

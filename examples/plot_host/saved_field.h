@@ -109,12 +109,15 @@ private:
     std::string m_name;
 };
 
-// The keys of a table of rows.
-template <class Row, std::size_t count>
-std::vector<std::string> keys_of(const Row (&rows)[count]) {
+// The keys of tables of rows.
+template <class... Tables>
+std::vector<std::string> keys_of(const Tables&... tables) {
     std::vector<std::string> keys;
-    for (const Row& row : rows)
-        keys.emplace_back(row.key);
+    const auto add = [&keys](const auto& rows) {
+        for (const auto& row : rows)
+            keys.emplace_back(row.key);
+    };
+    (add(tables), ...);
     return keys;
 }
 

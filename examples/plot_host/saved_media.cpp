@@ -1,6 +1,3 @@
-#include "examples/plot_host/saved_media.h"
-
-#include "examples/common/made.h"
 #include "examples/plot_host/saved_rows.h"
 
 namespace plot_host {
@@ -31,10 +28,12 @@ constexpr Row<S> snapshot_rows[] = {
 
 using C = PX_Media_Configuration;
 
-// The description of a size comes with the snapshot.
+// The description of a size comes with the snapshot, and the bounds that its setter lays are those of none.
 void choose_size(C& media, const PX_Media_Size* size) {
+    const auto bounds = media.get_actual_printable_bounds();
     const PX_Std_Media_Description description;
     media.set_media_size(size, &description);
+    media.set_actual_printable_bounds(bounds.get());
 }
 
 constexpr Row<C> name_rows[] = {
@@ -62,42 +61,11 @@ constexpr Row<C> value_rows[] = {
     value_row<&C::get_actual_printable_bounds, &C::set_actual_printable_bounds>("actual_printable_bounds"),
 };
 
-constexpr const char* snapshot_key = "snapshot";
-
-std::vector<std::string> all_keys() {
-    std::vector<std::string> keys = keys_of(name_rows);
-    for (const std::string& key : keys_of(value_rows))
-        keys.push_back(key);
-    keys.emplace_back(snapshot_key);
-    return keys;
-}
-
 }  // namespace
 
-void read_saved_media(const Field& domain, const PX_Plotter_Configuration& into) {
-    const auto configuration = into.get_media_configuration();
-    C& media = *configuration;
-    const auto members = domain.members(all_keys());
-    const auto snapshot = made(media.get_media_settings()->clone(), L"snapshot");
-    const auto bounds = media.get_actual_printable_bounds();
-    read_rows(name_rows, members, media);
-    for (const auto& [key, field] : members) {
-        if (key == snapshot_key)
-            read_rows(snapshot_rows, field.members(keys_of(snapshot_rows)), *snapshot);
-    }
-    media.set_media_settings(snapshot.get());
-    // The setter of the size has written them.
-    media.set_actual_printable_bounds(bounds.get());
-    read_rows(value_rows, members, media);
-}
-
-json write_saved_media(const PX_Plotter_Configuration& choice) {
-    const C& media = *choice.get_media_configuration();
-    json domain;
-    write_rows(name_rows, media, domain);
-    write_rows(value_rows, media, domain);
-    write_rows(snapshot_rows, *media.get_media_settings(), domain[snapshot_key]);
-    return domain;
-}
+constexpr Saved_Domain saved_media =
+    domain_of_names<&PX_Plotter_Configuration::get_media_configuration, name_rows,
+                    Snapshot_Of<&C::get_media_settings, &C::set_media_settings, snapshot_rows>, value_rows>(
+        "media");
 
 }  // namespace plot_host

@@ -1,5 +1,3 @@
-#include "examples/plot_host/saved_output.h"
-
 #include "examples/plot_host/output_words.h"
 #include "examples/plot_host/saved_rows.h"
 
@@ -35,14 +33,7 @@ constexpr Row<Output> rows[] = {
 
 }  // namespace
 
-void read_saved_output(const Field& domain, const PX_Plotter_Configuration& into) {
-    read_rows(rows, domain.members(keys_of(rows)), *into.get_io_configuration());
-}
-
-json write_saved_output(const PX_Plotter_Configuration& choice) {
-    json domain;
-    write_rows(rows, *choice.get_io_configuration(), domain);
-    return domain;
-}
+constexpr Saved_Domain saved_output =
+    domain_of_rows<&PX_Plotter_Configuration::get_io_configuration, rows>("output");
 
 }  // namespace plot_host

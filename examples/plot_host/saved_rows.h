@@ -6,9 +6,10 @@
 #include <utility>
 #include <vector>
 
-#include "examples/plot_host/saved_field.h"
+#include "examples/common/made.h"
+#include "examples/plot_host/saved_domains.h"
 
-// What the parts of a saved choice are read and written by, a row a datum.
+// What the domains of a saved choice are read and written by, a row a datum.
 namespace plot_host {
 
 // A datum of `Owner` under its key.
@@ -38,6 +39,12 @@ inline json as_json(const PX_Smart_Pointer<PX_Float_Rectangle>& value) {
             {"x_max", as_json(value->x_max)},
             {"y_min", as_json(value->y_min)},
             {"y_max", as_json(value->y_max)}};
+}
+// Null for a string that was taken away.
+inline json as_json(const PX_Smart_Pointer<PX_Dev_String>& string) {
+    if (!string)
+        return nullptr;
+    return text::to_utf8(std::wstring(string->data(), string->data() + string->length()));
 }
 template <class Value>
 requires std::is_arithmetic_v<Value> || std::is_enum_v<Value> json as_json(Value value) {
@@ -83,6 +90,9 @@ void read_value(const Field& field, Owner& owner) {
     } else if constexpr (std::is_same_v<Value, PX_Smart_Pointer<PX_Float_Rectangle>>) {
         const PX_Float_Rectangle value = rectangle_of(field);
         (owner.*set)(&value);
+    } else if constexpr (std::is_same_v<Value, PX_Smart_Pointer<PX_Dev_String>>) {
+        const std::optional<PX_Dev_String> value = field.device_string();
+        (owner.*set)(value ? &*value : nullptr);
     } else if constexpr (std::is_same_v<Value, bool>) {
         (owner.*set)(field.boolean());
     } else if constexpr (std::is_floating_point_v<Value>) {
@@ -145,6 +155,60 @@ template <class Owner, std::size_t count>
 void write_rows(const Row<Owner> (&rows)[count], const Owner& owner, json& values) {
     for (const Row<Owner>& row : rows)
         values[row.key] = row.write(owner);
+}
+
+// A domain whose rows stand for themselves.
+template <auto get, const auto& rows>
+constexpr Saved_Domain domain_of_rows(const char* key) {
+    constexpr auto read = [](const Field& domain, const PX_Plotter_Configuration& into) {
+        read_rows(rows, domain.members(keys_of(rows)), *(into.*get)());
+    };
+    constexpr auto write = [](const PX_Plotter_Configuration& choice) {
+        json domain;
+        write_rows(rows, *(choice.*get)(), domain);
+        return domain;
+    };
+    return {key, read, write};
+}
+
+inline constexpr const char* snapshot_key = "snapshot";
+
+// What the names of a domain stood for when they were chosen.
+template <auto get_snapshot, auto set_snapshot, const auto& snapshot_rows>
+struct Snapshot_Of {
+    static constexpr auto get = get_snapshot;
+    static constexpr auto set = set_snapshot;
+    static constexpr const auto& rows = snapshot_rows;
+};
+
+// A domain of names, of what they stood for, and of values. The setters of the names write into the snapshot,
+// and those of the values may go by it: the saved one goes between them, over the one that was there before
+// the names.
+template <auto get, const auto& names, class Snapshot, const auto& values>
+constexpr Saved_Domain domain_of_names(const char* key) {
+    constexpr auto read = [](const Field& domain, const PX_Plotter_Configuration& into) {
+        const auto owner = (into.*get)();
+        std::vector<std::string> known = keys_of(names, values);
+        known.emplace_back(snapshot_key);
+        const auto members = domain.members(known);
+        const auto snapshot = made(((*owner).*Snapshot::get)()->clone(), L"snapshot");
+        read_rows(names, members, *owner);
+        for (const auto& [name, field] : members) {
+            if (name == snapshot_key)
+                read_rows(Snapshot::rows, field.members(keys_of(Snapshot::rows)), *snapshot);
+        }
+        ((*owner).*Snapshot::set)(snapshot.get());
+        read_rows(values, members, *owner);
+    };
+    constexpr auto write = [](const PX_Plotter_Configuration& choice) {
+        const auto owner = (choice.*get)();
+        json domain;
+        write_rows(names, *owner, domain);
+        write_rows(values, *owner, domain);
+        write_rows(Snapshot::rows, *((*owner).*Snapshot::get)(), domain[snapshot_key]);
+        return domain;
+    };
+    return {key, read, write};
 }
 
 }  // namespace plot_host

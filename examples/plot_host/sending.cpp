@@ -42,21 +42,21 @@ std::string plural(unsigned long long bytes) {
 
 }  // namespace
 
-Exit_Code send_plot(const Plot_Order& order, const Driver& driver, PX_Plotter_Definition& device,
-                    const PX_Smart_Pointer<Host_Error_Handler>& handler, Host_Platform& platform,
-                    std::ostream& out, std::ostream& err) {
-    fill_shoebox(device, order.destination, order.drawing_path, order.user.can_answer);
-    handler->begin_sending(platform, order.user.can_answer);
+Exit_Code send_plot(const Plot_Order& order, const Session& session) {
+    Host_Platform& platform = session.platform;
+    std::ostream& err = session.err;
+    fill_shoebox(session.device, order.destination, order.drawing_path, session.user.can_answer);
+    session.handler->begin_sending(platform, session.user.can_answer);
     const Interrupt interrupt(platform);
     Plot_Result result{};
     {
-        Progress_Bar bar(err, order.user.sees_progress);
-        result = driver.plot(device, handler.get(), order.drawing,
-                             text::from_utf8(order.drawing_path.stem().string()).c_str(),
-                             [&](std::size_t done, std::size_t whole) {
-                                 bar.show(done, whole);
-                                 return !platform.is_stopped();
-                             });
+        Progress_Bar bar(err, session.user.sees_progress);
+        result = session.driver.plot(session.device, session.handler.get(), order.drawing,
+                                     text::from_utf8(order.drawing_path.stem().string()).c_str(),
+                                     [&](std::size_t done, std::size_t whole) {
+                                         bar.show(done, whole);
+                                         return !platform.is_stopped();
+                                     });
     }
     const std::string reason = text::on_one_line(text::to_utf8(platform.last_error()));
     platform.close_ports();
@@ -67,7 +67,7 @@ Exit_Code send_plot(const Plot_Order& order, const Driver& driver, PX_Plotter_De
     }
     switch (result.end) {
         case Plot_End::Sent:
-            out << "Sent " << plural(result.bytes) << " to " << where << '\n';
+            session.out << "Sent " << plural(result.bytes) << " to " << where << '\n';
             return Done;
         case Plot_End::Not_Opened:
             err << "plot_host: " << where << " cannot be opened" << (reason.empty() ? "" : ": " + reason)

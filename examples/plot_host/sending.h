@@ -1,5 +1,6 @@
 #pragma once
 
+#include <filesystem>
 #include <ostream>
 
 #include "examples/common/driver.h"
@@ -9,18 +10,26 @@
 
 namespace plot_host {
 
-// What a plot is, where it goes and who is told.
+// A device that is open, and who is told of what becomes of its plot.
+struct Session {
+    const Driver& driver;
+    PX_Plotter_Definition& device;
+    Host_Platform& platform;
+    PX_Smart_Pointer<Host_Error_Handler> handler;
+    std::ostream& out;
+    std::ostream& err;
+    User user;
+};
+
+// What a plot is and where it goes.
 struct Plot_Order {
     const Drawing& drawing;
     const std::filesystem::path& drawing_path;
     const Destination& destination;
-    User user;
 };
 
 // Sends the plot to where the device's configuration says. Done, Not_Sent or Interrupted; why it was not sent
 // is told on `err`, the number of bytes on `out`.
-Exit_Code send_plot(const Plot_Order& order, const Driver& driver, PX_Plotter_Definition& device,
-                    const PX_Smart_Pointer<Host_Error_Handler>& handler, Host_Platform& platform,
-                    std::ostream& out, std::ostream& err);
+Exit_Code send_plot(const Plot_Order& order, const Session& session);
 
 }  // namespace plot_host

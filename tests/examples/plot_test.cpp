@@ -166,8 +166,8 @@ TEST_F(Plots, TurnedSheetAndLongLine) {
     for (int at = 0; at < 40; ++at)
         drawing.lines[0].points.push_back({double(at), 0});
     const std::string parted = plotted(m_pens, pen_plotter_name, drawing, turn);
-    EXPECT_EQ(std::count(parted.begin(), parted.end(), ','), 42 + 41 - 3)
-        << "42 points, 41 of them in three parts";
+    EXPECT_EQ(std::count(parted.begin(), parted.end(), ','), 42 + 41 - 3 + 2)
+        << "42 points, 41 of them in three parts, and what the pen is told";
     std::istringstream lines(parted);
     for (std::string line; std::getline(lines, line);)
         EXPECT_LT(line.size(), 256U) << "what the plotter's buffer holds";

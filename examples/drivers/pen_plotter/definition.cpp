@@ -1,5 +1,8 @@
 #include "examples/drivers/pen_plotter/definition.h"
 
+#include <utility>
+
+#include "examples/common/device.h"
 #include "examples/common/made.h"
 #include "examples/common/own_strings.h"
 #include "examples/common/text.h"
@@ -46,43 +49,25 @@ PX_Smart_Pointer<PX_Meta_Capabilities> identity(const std::filesystem::path& nam
     meta->set_driver_pathname(text::from_utf8(name.string()).c_str());
     meta->set_driver_version(L"1.0");
     meta->set_driver_description(L"Flat-bed plotter with eight pens");
-    const auto family = made(factory.MK_Create_Family(), L"family");
-    family->set_canonical_name(maker);
-    family->set_localized_name(maker);
+    const auto family = made_named(factory.MK_Create_Family(), L"family", maker, maker);
     meta->set_family(family.get());
-    const auto model = made(factory.MK_Create_Model(), L"model");
-    model->set_canonical_name(model_name);
-    model->set_localized_name(model_name);
+    const auto model = made_named(factory.MK_Create_Model(), L"model", model_name, model_name);
     meta->set_model(model.get());
     return meta;
 }
-
-class Pen_Plotter : public PX_Std_Plotter_Definition {
-public:
-    Pen_Plotter(const std::filesystem::path& name, PX_Smart_Pointer<PX_Error_Handler> handler)
-        : PX_Std_Plotter_Definition(std::move(handler)) {
-        // The base has made the standard ones.
-        m_class_factory = made<PX_Plotter_Class_Factory>(new Pen_Plotter_Factory, L"m_class_factory");
-        const PX_Plotter_Class_Factory& factory = *m_class_factory;
-        m_plotter_validator = made(factory.MK_Create_Plotter_Validator(this), L"m_plotter_validator");
-        m_meta_capabilities = identity(name, factory);
-        m_plotter_capabilities =
-            made(factory.MK_Create_Plotter_Capabilities(maker, maker, model_name), L"m_plotter_capabilities");
-        m_plotter_capabilities->set_init_term_capabilities(
-            own_strings_capabilities(own_strings, factory).get());
-        m_plotter_capabilities->set_media_capabilities(pen_plotter_media(factory).get());
-        m_plotter_capabilities->set_phys_pen_capabilities(carousel_capabilities(factory).get());
-        // Pens have their colours; there is no raster to choose for.
-        m_plotter_capabilities->set_res_color_mem_capabilities(
-            made(factory.MK_Create_ResColorMem_Capabilities(), L"res_color_mem_capabilities").get());
-        m_plotter_capabilities->set_io_capabilities(
-            ways_out(line_settings(), L"plt", timeout, factory).get());
-    }
-};
 
 }  // namespace
 
 PX_Smart_Pointer<PX_Plotter_Definition> open_pen_plotter(const std::filesystem::path& name,
                                                          PX_Smart_Pointer<PX_Error_Handler> handler) {
-    return made<PX_Plotter_Definition>(new Pen_Plotter(name, std::move(handler)), L"definition");
+    const auto own = made<PX_Plotter_Class_Factory>(new Pen_Plotter_Factory, L"class_factory");
+    const PX_Plotter_Class_Factory& factory = *own;
+    return described_device(std::move(handler), own,
+                            {.identity = identity(name, factory),
+                             .strings = own_strings_capabilities(own_strings, factory),
+                             .media = pen_plotter_media(factory),
+                             .pens = carousel_capabilities(factory),
+                             // The pens have their colours; there is no raster to choose for.
+                             .color = nullptr,
+                             .ways_out = ways_out(line_settings(), L"plt", timeout, factory)});
 }

@@ -25,9 +25,8 @@ constexpr auto fed_by_hand = static_cast<PX_Media_Feed::Enum>(0);
 
 PX_Smart_Pointer<PX_Media_Description> description_of(const Sheet& sheet,
                                                       const PX_Plotter_Class_Factory& factory) {
-    auto description = made(factory.MK_Create_Media_Description(), L"description");
-    description->set_canonical_name(sheet.name);
-    description->set_localized_name(sheet.name);
+    auto description =
+        made_named(factory.MK_Create_Media_Description(), L"description", sheet.name, sheet.name);
     const PX_Float_XY extent(sheet.width, sheet.height);
     description->set_media_bounds(&extent);
     // Both ends count.
@@ -41,9 +40,7 @@ void fill_sizes(PX_Media_Capabilities& capabilities, const PX_Plotter_Class_Fact
     const auto sizes = made(factory.MK_Create_Media_Size_List(), L"sizes");
     const auto descriptions = made(factory.MK_Create_Media_Description_List(), L"descriptions");
     for (const Sheet& sheet : sheets) {
-        const auto size = made(factory.MK_Create_Media_Size(), L"size");
-        size->set_canonical_name(sheet.name);
-        size->set_localized_name(sheet.name);
+        const auto size = made_named(factory.MK_Create_Media_Size(), L"size", sheet.name, sheet.name);
         size->set_media_description(sheet.name);
         size->set_landscape_mode_flag(sheet.width > sheet.height);
         sizes->append(size);
@@ -59,23 +56,19 @@ void fill_sizes(PX_Media_Capabilities& capabilities, const PX_Plotter_Class_Fact
 
 void fill_source(PX_Media_Capabilities& capabilities, const PX_Plotter_Class_Factory& factory) {
     const auto names = made(factory.MK_Create_Media_Size_Name_List(), L"names");
-    const auto entry = made(factory.MK_Create_Media_Source_Entry(), L"entry");
+    const auto entry = made_named(factory.MK_Create_Media_Source_Entry(), L"entry", bed, bed);
     for (const Sheet& sheet : sheets) {
         const auto name = made(factory.MK_Create_Media_Size_In_Source(), L"name");
         name->set_canonical_name(sheet.name);
         names->append(name);
         entry->set_source_width(std::max(entry->get_source_width(), sheet.width));
     }
-    entry->set_canonical_name(bed);
-    entry->set_localized_name(bed);
     entry->set_media_size_name_list(names.get());
     entry->set_default_media_size(default_sheet);
     const auto entries = made(factory.MK_Create_Media_Source_Entry_List(), L"entries");
     entries->append(entry);
 
-    const auto source = made(factory.MK_Create_Media_Source(), L"source");
-    source->set_canonical_name(bed);
-    source->set_localized_name(bed);
+    const auto source = made_named(factory.MK_Create_Media_Source(), L"source", bed, bed);
     source->set_media_feed(fed_by_hand);
     source->set_source_entry_list(entries.get());
     source->set_default_source_entry(bed);

@@ -1,5 +1,9 @@
 #include "examples/drivers/ppd/definition.h"
 
+#include <memory>
+#include <utility>
+
+#include "examples/common/device.h"
 #include "examples/common/made.h"
 #include "examples/common/own_strings.h"
 #include "examples/common/ways_out.h"
@@ -28,53 +32,37 @@ PX_Smart_Pointer<PX_Plotter_IO_Capabilities> usual_ways_out(const PX_Plotter_Cla
     return ways_out(line, L"ps", timeout, factory);
 }
 
+// Makes the standard classes, and the driver's own where the description has a say.
+class Ppd_Class_Factory : public PX_Std_Plotter_Class_Factory {
+public:
+    explicit Ppd_Class_Factory(std::shared_ptr<const Ppd_File> file) : m_file(std::move(file)) {}
+
+    PX_Media_Validator* MK_Create_Media_Validator(PX_Plotter_Definition* plotter) const override {
+        return new Ppd_Media_Validator(plotter);
+    }
+    PX_InitTerm_Validator* MK_Create_InitTerm_Validator(PX_Plotter_Definition* plotter) const override {
+        return new Own_Strings_Validator(plotter, strings_of(*m_file));
+    }
+    PX_ResColorMem_Validator* MK_Create_ResColorMem_Validator(PX_Plotter_Definition* plotter) const override {
+        return new Ppd_ResColorMem_Validator(plotter, m_file);
+    }
+
+private:
+    std::shared_ptr<const Ppd_File> m_file;
+};
+
 }  // namespace
-
-Ppd_Class_Factory::Ppd_Class_Factory(std::shared_ptr<const Ppd_File> file) : m_file(std::move(file)) {
-}
-
-PX_Media_Validator* Ppd_Class_Factory::MK_Create_Media_Validator(PX_Plotter_Definition* plotter) const {
-    return new Ppd_Media_Validator(plotter);
-}
-
-PX_InitTerm_Validator* Ppd_Class_Factory::MK_Create_InitTerm_Validator(PX_Plotter_Definition* plotter) const {
-    return new Own_Strings_Validator(plotter, strings_of(*m_file));
-}
-
-PX_ResColorMem_Validator* Ppd_Class_Factory::MK_Create_ResColorMem_Validator(
-    PX_Plotter_Definition* plotter) const {
-    return new Ppd_ResColorMem_Validator(plotter, m_file);
-}
-
-Ppd_Definition::Ppd_Definition(PX_Smart_Pointer<PX_Error_Handler> handler,
-                               std::shared_ptr<const Ppd_File> file)
-    : PX_Std_Plotter_Definition(std::move(handler)) {
-    // The base has made the standard factory, and a validator out of it: both give way, the factory first.
-    m_class_factory = made<PX_Plotter_Class_Factory>(new Ppd_Class_Factory(file), L"m_class_factory");
-    const PX_Plotter_Class_Factory& factory = *m_class_factory;
-    m_plotter_validator = made(factory.MK_Create_Plotter_Validator(this), L"m_plotter_validator");
-
-    m_meta_capabilities = ppd_meta_capabilities(*file, factory);
-    const auto family = m_meta_capabilities->get_family();
-    const auto model = m_meta_capabilities->get_model();
-    m_plotter_capabilities =
-        made(factory.MK_Create_Plotter_Capabilities(
-                 family->get_canonical_name(), family->get_canonical_name(), model->get_canonical_name()),
-             L"m_plotter_capabilities");
-    m_plotter_capabilities->set_init_term_capabilities(
-        own_strings_capabilities(strings_of(*file), factory).get());
-    m_plotter_capabilities->set_media_capabilities(ppd_media_capabilities(*file, factory).get());
-    // It has no pens.
-    m_plotter_capabilities->set_phys_pen_capabilities(
-        made(factory.MK_Create_Pen_Capabilities(), L"phys_pen_capabilities").get());
-    m_plotter_capabilities->set_res_color_mem_capabilities(
-        ppd_res_color_mem_capabilities(*file, factory).get());
-    m_plotter_capabilities->set_io_capabilities(usual_ways_out(factory).get());
-}
 
 PX_Smart_Pointer<PX_Plotter_Definition> open_ppd_device(const std::filesystem::path& description,
                                                         PX_Smart_Pointer<PX_Error_Handler> handler) {
-    auto file = std::make_shared<const Ppd_File>(description);
-    return made<PX_Plotter_Definition>(new Ppd_Definition(std::move(handler), std::move(file)),
-                                       L"definition");
+    const auto file = std::make_shared<const Ppd_File>(description);
+    const auto own = made<PX_Plotter_Class_Factory>(new Ppd_Class_Factory(file), L"class_factory");
+    const PX_Plotter_Class_Factory& factory = *own;
+    return described_device(std::move(handler), own,
+                            {.identity = ppd_meta_capabilities(*file, factory),
+                             .strings = own_strings_capabilities(strings_of(*file), factory),
+                             .media = ppd_media_capabilities(*file, factory),
+                             .pens = nullptr,
+                             .color = ppd_res_color_mem_capabilities(*file, factory),
+                             .ways_out = usual_ways_out(factory)});
 }

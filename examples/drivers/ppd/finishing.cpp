@@ -338,9 +338,8 @@ PX_Smart_Pointer<PX_Named_Object_List<Entry>> listed(const std::vector<Choice>& 
                                                      Entry* (Factory::*new_entry)() const, Fill fill) {
     auto list = made((factory.*new_list)(), L"list");
     for (const Choice& choice : choices) {
-        const auto entry = made((factory.*new_entry)(), L"entry");
-        entry->set_canonical_name(choice.name.c_str());
-        entry->set_localized_name(choice.text.c_str());
+        const auto entry =
+            made_named((factory.*new_entry)(), L"entry", choice.name.c_str(), choice.text.c_str());
         fill(*entry, choice);
         list->append(entry);
     }

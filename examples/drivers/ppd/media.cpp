@@ -129,9 +129,8 @@ private:
         const PX_Float_XY resolution = best_resolution(m_file);
         const auto list = made(m_factory.MK_Create_Media_Type_List(), L"types");
         for (const Ppd_Choice& choice : types.choices) {
-            const auto type = made(m_factory.MK_Create_Media_Type(), L"type");
-            type->set_canonical_name(choice.name.c_str());
-            type->set_localized_name(choice.text.c_str());
+            const auto type = made_named(m_factory.MK_Create_Media_Type(), L"type", choice.name.c_str(),
+                                         choice.text.c_str());
             type->set_max_resolution(&resolution);
             list->append(type);
         }
@@ -148,9 +147,8 @@ private:
         const auto sizes = made(m_factory.MK_Create_Media_Size_List(), L"sizes");
         const auto descriptions = made(m_factory.MK_Create_Media_Description_List(), L"descriptions");
         for (const Ppd_Size& sheet : m_sizes) {
-            const auto size = made(m_factory.MK_Create_Media_Size(), L"size");
-            size->set_canonical_name(sheet.name.c_str());
-            size->set_localized_name(sheet.text.c_str());
+            const auto size =
+                made_named(m_factory.MK_Create_Media_Size(), L"size", sheet.name.c_str(), sheet.text.c_str());
             size->set_media_description(sheet.name.c_str());
             size->set_landscape_mode_flag(sheet.width > sheet.height);
             sizes->append(size);
@@ -177,9 +175,8 @@ private:
     }
 
     PX_Smart_Pointer<PX_Media_Description> description_of(const Ppd_Size& sheet) {
-        auto description = made(m_factory.MK_Create_Media_Description(), L"description");
-        description->set_canonical_name(sheet.name.c_str());
-        description->set_localized_name(sheet.text.c_str());
+        auto description = made_named(m_factory.MK_Create_Media_Description(), L"description",
+                                      sheet.name.c_str(), sheet.text.c_str());
         const PX_Float_XY extent(sheet.width, sheet.height);
         description->set_media_bounds(&extent);
         const PX_Float_Rectangle printable(sheet.left, sheet.right - 1, sheet.bottom, sheet.top - 1);
@@ -200,9 +197,8 @@ private:
     void fill_sources() {
         const auto sources = made(m_factory.MK_Create_Media_Source_List(), L"sources");
         for (const Source& slot : m_sources) {
-            const auto source = made(m_factory.MK_Create_Media_Source(), L"source");
-            source->set_canonical_name(slot.name.c_str());
-            source->set_localized_name(slot.text.c_str());
+            const auto source = made_named(m_factory.MK_Create_Media_Source(), L"source", slot.name.c_str(),
+                                           slot.text.c_str());
             const Ppd_Feed::Enum feed = feed_of(slot);
             source->set_media_feed(static_cast<PX_Media_Feed::Enum>(feed));
             const auto entries = made(m_factory.MK_Create_Media_Source_Entry_List(), L"entries");
@@ -223,9 +219,8 @@ private:
     }
 
     PX_Smart_Pointer<PX_Media_Source_Entry> entry_of(const Source& slot, Ppd_Feed::Enum feed) {
-        auto entry = made(m_factory.MK_Create_Media_Source_Entry(), L"entry");
-        entry->set_canonical_name(slot.name.c_str());
-        entry->set_localized_name(slot.text.c_str());
+        auto entry = made_named(m_factory.MK_Create_Media_Source_Entry(), L"entry", slot.name.c_str(),
+                                slot.text.c_str());
         const auto names = made(m_factory.MK_Create_Media_Size_Name_List(), L"names");
         float width = 0;
         float height = feed == Ppd_Feed::Roll ? roll_height() : 0;

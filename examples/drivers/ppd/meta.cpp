@@ -48,19 +48,16 @@ std::wstring maker_of(std::wstring_view device_id) {
 }
 
 PX_Smart_Pointer<PX_Family> make_family(const Ppd_File& file, const PX_Plotter_Class_Factory& factory) {
-    auto family = made(factory.MK_Create_Family(), L"family");
     std::wstring maker = file.text("Manufacturer");
     if (maker.empty())
         maker = maker_of(file.text("1284DeviceID"));
-    family->set_canonical_name(maker.c_str());
-    family->set_localized_name(maker.c_str());
-    return family;
+    return made_named(factory.MK_Create_Family(), L"family", maker.c_str(), maker.c_str());
 }
 
 PX_Smart_Pointer<PX_Model> make_model(const Ppd_File& file, const PX_Plotter_Class_Factory& factory) {
-    auto model = made(factory.MK_Create_Model(), L"model");
-    model->set_canonical_name(without_version(first_text(file, {"ModelName", "NickName"})).c_str());
-    model->set_localized_name(first_text(file, {"NickName", "ModelName"}).c_str());
+    auto model = made_named(factory.MK_Create_Model(), L"model",
+                            without_version(first_text(file, {"ModelName", "NickName"})).c_str(),
+                            first_text(file, {"NickName", "ModelName"}).c_str());
     // A system that finds the device by itself knows it by its id, and lists drivers by the short name.
     model->set_win_device_name(file.text("1284DeviceID").c_str());
     model->set_win_driver_name(first_text(file, {"ShortNickName", "NickName"}).c_str());

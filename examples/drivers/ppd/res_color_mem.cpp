@@ -77,9 +77,8 @@ private:
 
     void fill_dithering() {
         const auto methods = made(m_factory.MK_Create_Dithering_List(), L"dithering");
-        const auto method = made(m_factory.MK_Create_Dithering_Method(), L"method");
-        method->set_canonical_name(dithering_name);
-        method->set_localized_name(dithering_name);
+        const auto method =
+            made_named(m_factory.MK_Create_Dithering_Method(), L"method", dithering_name, dithering_name);
         methods->append(method);
         m_capabilities.set_dithering_list(methods.get());
         allow(Value::Ability_Required, {Ability::RCM_Dithering_List, Ability::RCM_Dithering});
@@ -89,9 +88,8 @@ private:
         const Ppd_Option memory = m_file.option(memory_keyword);
         const auto areas = made(m_factory.MK_Create_Mem_Area_List(), L"areas");
         for (const Ppd_Choice& choice : memory.choices) {
-            const auto area = made(m_factory.MK_Create_Mem_Area(), L"area");
-            area->set_canonical_name(choice.name.c_str());
-            area->set_localized_name(choice.text.c_str());
+            const auto area =
+                made_named(m_factory.MK_Create_Mem_Area(), L"area", choice.name.c_str(), choice.text.c_str());
             area->set_device_memory(megabytes_of(choice.name));
             areas->append(area);
         }
@@ -121,9 +119,8 @@ private:
         auto list = made(m_factory.MK_Create_Resolution_List(), L"resolutions");
         const auto names = area_names();
         for (const Ppd_Resolution& choice : m_resolutions.choices) {
-            const auto resolution = made(m_factory.MK_Create_Resolution(), L"resolution");
-            resolution->set_canonical_name(choice.name.c_str());
-            resolution->set_localized_name(choice.text.c_str());
+            const auto resolution = made_named(m_factory.MK_Create_Resolution(), L"resolution",
+                                               choice.name.c_str(), choice.text.c_str());
             resolution->set_phys_resolution_xy(&choice.dpi);
             resolution->set_addr_resolution_xy(&choice.dpi);
             resolution->set_effective_resolution_xy(&choice.dpi);
@@ -145,9 +142,8 @@ private:
         const auto list = made(m_factory.MK_Create_ResColorMem_List(), L"modes");
         const auto all_resolutions = resolutions();
         for (const Ppd_Choice& choice : models.choices) {
-            const auto mode = made(m_factory.MK_Create_ResColorMem(), L"mode");
-            mode->set_canonical_name(choice.name.c_str());
-            mode->set_localized_name(choice.text.c_str());
+            const auto mode = made_named(m_factory.MK_Create_ResColorMem(), L"mode", choice.name.c_str(),
+                                         choice.text.c_str());
             const int system = ppd_meaning_of(choice.name, systems).value_or(own_system);
             const Colors& colors = colors_of(system);
             mode->set_num_colors(colors.count);

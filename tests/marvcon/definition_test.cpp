@@ -54,6 +54,7 @@ TEST(Class_Factory, MakesTheStandardClasses) {
     BOTH(Media_Description) BOTH(Media_Destination) BOTH(Media_Collating) BOTH(Media_Stapling)
     BOTH(Media_Cutting) BOTH(Media_Folding) BOTH(Media_Size) BOTH(Media_Source) BOTH(Media_Source_Entry)
     BOTH(Media_Type) BOTH(Model) BOTH(Family) MADE(Meta_Capabilities)
+    MADE(Linetype_Capabilities) MADE(Raster_Capabilities)
     LIST(Media_Size_Name_List, PX_Caps_Name_List_Object) LIST(Caps_Name_List, PX_Caps_Name_List_Object)
     MADE(Caps_Name_List_Object) MADE(Plotter_Capabilities, nullptr, L"b", L"c")
     MADE(Plotter_Configuration, L"a", nullptr, L"c") MADE(Shoebox) MADE(Kestrane_Shoebox)
@@ -218,8 +219,8 @@ TEST(Roots, AreClonedWholeAndInOrder) {
     set(caps, &A::set_custom_capabilities, Caps<PX_Custom_Capabilities>("custom"));
     set(caps, &A::set_init_term_capabilities, Caps<PX_InitTerm_Capabilities, PX_Std_InitTerm_Capabilities>("init-term"));
     set(caps, &A::set_res_color_mem_capabilities, Caps<PX_ResColorMem_Capabilities, PX_Std_ResColorMem_Capabilities>("rcm"));
-    set(caps, &A::set_linetype_capabilities, Caps<PX_Linetype_Capabilities>("linetypes"));
-    set(caps, &A::set_raster_capabilities, Caps<PX_Raster_Capabilities>("raster"));
+    set(caps, &A::set_linetype_capabilities, Caps<PX_Linetype_Capabilities, PX_Std_Linetype_Capabilities>("linetypes"));
+    set(caps, &A::set_raster_capabilities, Caps<PX_Raster_Capabilities, PX_Std_Raster_Capabilities>("raster"));
     set(caps, &A::set_phys_pen_capabilities, Caps<PX_PhysPen_Capabilities, PX_Std_PhysPen_Capabilities>("pens"));
     set(caps, &A::set_io_capabilities, Caps<PX_Plotter_IO_Capabilities, PX_Std_Plotter_IO_Capabilities>("io"));
     set(caps, &A::set_media_capabilities, Caps<PX_Media_Capabilities, PX_Std_Media_Capabilities>("media"));

@@ -87,9 +87,10 @@ std::vector<Thrown> failures_of(Attempt attempt) {
     }
 }
 
-// 1101 leaves the clone under its name, and nothing leaks.
+// 1101 leaves the clone under its name, and with its file where one is given, and nothing leaks.
 template <class Class>
-void expect_clone_reports_no_memory(const Class& object, const std::wstring& function) {
+void expect_clone_reports_no_memory(const Class& object, const std::wstring& function,
+                                    const std::wstring& file = L"") {
     const auto failures = failures_of([&] { delete object.clone(); });
     EXPECT_FALSE(failures.empty());
     for (const Thrown& thrown : failures) {
@@ -97,6 +98,7 @@ void expect_clone_reports_no_memory(const Class& object, const std::wstring& fun
         EXPECT_EQ(thrown.frames.empty() ? thrown.function : thrown.frames.back(), function);
         EXPECT_TRUE(!thrown.frames.empty() ||
                     (thrown.detail == L"new_one" && thrown.is<MVNK_Memory_Exception>()));
+        EXPECT_TRUE(file.empty() || thrown.file == file);
     }
 }
 

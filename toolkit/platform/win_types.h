@@ -18,6 +18,7 @@
 using BOOL = int;
 using UINT = std::uint32_t;
 using DWORD = std::uint32_t;
+using LONG = std::int32_t;
 using WORD = std::uint16_t;
 using BYTE = std::uint8_t;
 using HANDLE = void*;
@@ -236,4 +237,24 @@ constexpr DWORD PRINTER_ATTRIBUTE_LOCAL = 0x40;
 constexpr DWORD JOB_CONTROL_CANCEL = 3;
 constexpr DWORD VER_PLATFORM_WIN32_WINDOWS = 1;
 constexpr DWORD VER_PLATFORM_WIN32_NT = 2;
+
+// Fonts
+
+struct LOGFONTW {
+    LONG lfHeight;
+    LONG lfWidth;
+    LONG lfEscapement;
+    LONG lfOrientation;
+    LONG lfWeight;
+    BYTE lfItalic;
+    BYTE lfUnderline;
+    BYTE lfStrikeOut;
+    BYTE lfCharSet;
+    BYTE lfOutPrecision;
+    BYTE lfClipPrecision;
+    BYTE lfQuality;
+    BYTE lfPitchAndFamily;
+    char16_t lfFaceName[32];  // UTF-16 everywhere: the record goes to devices and hosts as it is
+};
+static_assert(sizeof(LOGFONTW) == 92);
 #endif

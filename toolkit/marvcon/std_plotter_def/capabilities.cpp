@@ -4,9 +4,11 @@
 #include "toolkit/core/fields.h"
 #include "toolkit/marvcon/std_init_term_cfg/interface.h"
 #include "toolkit/marvcon/std_io_cfg/interface.h"
+#include "toolkit/marvcon/std_linetype_caps/interface.h"
 #include "toolkit/marvcon/std_media_cfg/interface.h"
 #include "toolkit/marvcon/std_phys_pen_cfg/interface.h"
 #include "toolkit/marvcon/std_plotter_def/pending.h"
+#include "toolkit/marvcon/std_raster_caps/interface.h"
 #include "toolkit/marvcon/std_res_color_mem_cfg/interface.h"
 
 namespace {

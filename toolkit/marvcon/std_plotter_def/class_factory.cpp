@@ -10,6 +10,7 @@
 #include "toolkit/marvcon/std_io_cfg/catalogue.h"
 #include "toolkit/marvcon/std_io_cfg/configuration.h"
 #include "toolkit/marvcon/std_io_cfg/validator.h"
+#include "toolkit/marvcon/std_linetype_caps/capabilities.h"
 #include "toolkit/marvcon/std_media_cfg/capabilities.h"
 #include "toolkit/marvcon/std_media_cfg/catalogue.h"
 #include "toolkit/marvcon/std_media_cfg/configuration.h"
@@ -27,6 +28,7 @@
 #include "toolkit/marvcon/std_plotter_def/shoebox.h"
 #include "toolkit/marvcon/std_plotter_io/channel.h"
 #include "toolkit/marvcon/std_plval/validator.h"
+#include "toolkit/marvcon/std_raster_caps/capabilities.h"
 #include "toolkit/marvcon/std_res_color_mem_cfg/capabilities.h"
 #include "toolkit/marvcon/std_res_color_mem_cfg/catalogue.h"
 #include "toolkit/marvcon/std_res_color_mem_cfg/configuration.h"
@@ -125,6 +127,10 @@ PX_Plotter_IO_Validator* PX_Std_Plotter_Class_Factory::MK_Create_Plotter_IO_Vali
 PX_Plotter_IO* PX_Std_Plotter_Class_Factory::MK_Create_Plotter_IO(
     PX_Smart_Pointer<PX_Error_Handler> handler) const {
     return create<PX_Std_Plotter_IO>(std::move(handler));
+}
+
+PX_Linetype_Capabilities* PX_Std_Plotter_Class_Factory::MK_Create_Linetype_Capabilities() const {
+    return create<PX_Std_Linetype_Capabilities>();
 }
 
 PX_Media_Capabilities* PX_Std_Plotter_Class_Factory::MK_Create_Media_Capabilities() const {
@@ -276,6 +282,10 @@ PX_Named_Object_List<PX_Pen>* PX_Std_Plotter_Class_Factory::MK_Create_Pen_List()
 PX_PhysPen_Validator* PX_Std_Plotter_Class_Factory::MK_Create_Pen_Validator(
     PX_Plotter_Definition* plotter) const {
     return create<PX_Std_PhysPen_Validator>(plotter);
+}
+
+PX_Raster_Capabilities* PX_Std_Plotter_Class_Factory::MK_Create_Raster_Capabilities() const {
+    return create<PX_Std_Raster_Capabilities>();
 }
 
 PX_Mem_Area* PX_Std_Plotter_Class_Factory::MK_Create_Mem_Area() const {

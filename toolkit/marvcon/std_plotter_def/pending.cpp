@@ -63,11 +63,3 @@ PX_Custom_Validator* PX_Std_Plotter_Class_Factory::MK_Create_Custom_Validator(
     PX_Plotter_Definition* /*plotter*/) const {
     return nullptr;
 }
-
-PX_Linetype_Capabilities* PX_Std_Plotter_Class_Factory::MK_Create_Linetype_Capabilities() const {
-    return nullptr;
-}
-
-PX_Raster_Capabilities* PX_Std_Plotter_Class_Factory::MK_Create_Raster_Capabilities() const {
-    return nullptr;
-}

@@ -40,8 +40,6 @@ public:
     virtual Self* clone() const = 0;
 };
 
-class PX_Raster_Capabilities : public PX_Pending_Capabilities<PX_Raster_Capabilities> {};
-class PX_Linetype_Capabilities : public PX_Pending_Capabilities<PX_Linetype_Capabilities> {};
 class PX_Custom_Capabilities : public PX_Pending_Capabilities<PX_Custom_Capabilities> {};
 
 class PX_Custom_Configurations : public PX_Pending_Configuration<PX_Custom_Configurations> {};

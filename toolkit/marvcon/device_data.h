@@ -1,0 +1,4 @@
+#pragma once
+
+#include "toolkit/marvcon/device_data/plotter_device_data.h"
+#include "toolkit/marvcon/device_data/plotter_options.h"

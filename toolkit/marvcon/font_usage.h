@@ -1,0 +1,3 @@
+#pragma once
+
+#include "toolkit/marvcon/font_usage/usage_data.h"

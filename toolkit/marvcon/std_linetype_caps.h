@@ -1,0 +1,3 @@
+#pragma once
+
+#include "toolkit/marvcon/std_linetype_caps/capabilities.h"

@@ -1,0 +1,3 @@
+#pragma once
+
+#include "toolkit/marvcon/std_raster_caps/capabilities.h"

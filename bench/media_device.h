@@ -103,16 +103,20 @@ inline PX_Smart_Pointer<PX_Plotter_Definition> make_device(int size_count) {
     const PX_Std_ResColorMem_Configuration quality;
     const PX_Std_Plotter_IO_Capabilities ways_out;
     const PX_Std_Plotter_IO_Configuration destination;
+    const PX_Std_Custom_Capabilities settings;
+    const PX_Std_Custom_Configurations values;
     plotter->get_plotter_capabilities()->set_media_capabilities(&media);
     plotter->get_plotter_capabilities()->set_init_term_capabilities(&strings);
     plotter->get_plotter_capabilities()->set_phys_pen_capabilities(&carousel);
     plotter->get_plotter_capabilities()->set_res_color_mem_capabilities(&colors);
     plotter->get_plotter_capabilities()->set_io_capabilities(&ways_out);
+    plotter->get_plotter_capabilities()->set_custom_capabilities(&settings);
     plotter->get_plotter_configuration()->set_media_configuration(&sheet);
     plotter->get_plotter_configuration()->set_init_term_configuration(&bytes);
     plotter->get_plotter_configuration()->set_phys_pen_configuration(&pens);
     plotter->get_plotter_configuration()->set_res_color_mem_configuration(&quality);
     plotter->get_plotter_configuration()->set_io_configuration(&destination);
+    plotter->get_plotter_configuration()->set_custom_configuration(&values);
     plotter->get_plotter_validator()->set_all_to_defaults();
     return plotter;
 }

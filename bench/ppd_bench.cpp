@@ -53,11 +53,13 @@ PX_Smart_Pointer<PX_Plotter_Definition> open_with_defaults() {
     const PX_Std_PhysPen_Configuration pens;
     const PX_Std_ResColorMem_Configuration quality;
     const PX_Std_Plotter_IO_Configuration destination;
+    const PX_Std_Custom_Configurations settings;
     plotter->get_plotter_configuration()->set_media_configuration(&media);
     plotter->get_plotter_configuration()->set_init_term_configuration(&strings);
     plotter->get_plotter_configuration()->set_phys_pen_configuration(&pens);
     plotter->get_plotter_configuration()->set_res_color_mem_configuration(&quality);
     plotter->get_plotter_configuration()->set_io_configuration(&destination);
+    plotter->get_plotter_configuration()->set_custom_configuration(&settings);
     plotter->get_plotter_validator()->set_all_to_defaults();
     return plotter;
 }

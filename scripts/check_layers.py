@@ -16,7 +16,7 @@ ROOT = pathlib.Path(__file__).resolve().parent.parent
 FLOORS = {"host": 0, "platform": 1, "core": 2, "marvcon": 3}
 BACK_ENDS = {"posix", "win32", "scripted"}
 FRAME = {"std_plotter_def", "std_plval"}
-FRAME_FACE = {"interface.h", "factory_interface.h", "datum.h", "domain_objects.h", "pending.h"}
+FRAME_FACE = {"interface.h", "factory_interface.h", "datum.h", "domain_objects.h"}
 DOMAINS = {
     "std_meta_cfg", "std_media_cfg", "std_io_cfg", "std_res_color_mem_cfg", "std_phys_pen_cfg",
     "std_init_term_cfg", "std_custom_cfg", "std_linetype_caps", "std_raster_caps", "std_sys_io_caps",
@@ -231,7 +231,7 @@ SAMPLES = {
                                      "marvcon/std_meta_cfg/interface.h"),
          IO + "baud.h": "#include <cstdint>\n" + include("core/caps_type.h"),
          IO + "validator.cpp": include("marvcon/std_io_cfg/validator.h", "marvcon/std_plval/domain_objects.h",
-                                       "marvcon/std_plotter_def/pending.h", "platform/platform.h"),
+                                       "marvcon/std_plval/datum.h", "platform/platform.h"),
          "toolkit/marvcon/std_io_cfg.h": include("marvcon/std_io_cfg/validator.h"),
          "toolkit/marvcon/std_plotter_io/open.cpp": include("marvcon/std_sys_io_caps/interface.h"),
          "toolkit/marvcon/std_plotter_def/factory_interface.h": include("marvcon/std_io_cfg/baud.h"),
@@ -273,8 +273,8 @@ SAMPLES = {
     "a contract knows the platform": ({PENS + "interface.h": include("platform/platform.h")},
                                       [(1, "core, host and other contracts")]),
     "a contract knows the values of the frame": (
-        {PENS + "interface.h": include("marvcon/std_plotter_def/pending.h"),
-         "toolkit/marvcon/std_plotter_def/pending.h": ""}, [(1, "its own values")]),
+        {PENS + "interface.h": include("marvcon/std_plval/datum.h"),
+         "toolkit/marvcon/std_plval/datum.h": ""}, [(1, "its own values")]),
     "an umbrella from inside": ({PENS + "a.cpp": include("marvcon/marvcon.h")}, [(1, "umbrella")]),
     "an umbrella over two": ({"toolkit/marvcon/std_io_cfg.h": include("marvcon/std_phys_pen_cfg/pen.h")},
                              [(1, "own name")]),

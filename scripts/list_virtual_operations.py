@@ -16,7 +16,6 @@ import tempfile
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 LISTING = ROOT / "tests" / "virtual_operations.txt"
-PENDING = ROOT / "toolkit" / "marvcon" / "std_plotter_def" / "pending.h"
 SKIPPED = 77
 
 # A list has the same table for every element type: one stands for all.
@@ -151,20 +150,14 @@ def is_contract(name):
     return re.match(r"(PX|MVNK|Std)_", name) and not name.startswith("PX_Std_")
 
 
-def pending_classes():
-    text = PENDING.read_text(encoding="utf-8") if PENDING.exists() else ""
-    return set(re.findall(r"^class (\w+)\s*(?:[{:]|$)", text, re.MULTILINE))
-
-
 def listing(compiler):
     records = read_records(debug_information(compiler))
     tables = Tables(records)
     stand_ins = {r.name.split("<")[0] for r in records.values() if r.name.endswith("<Element>")}
-    left_out = pending_classes()
     blocks = {}
     for record in records.values():
         template, _, arguments = record.name.partition("<")
-        if not record.is_complete or not is_contract(record.name) or template in left_out:
+        if not record.is_complete or not is_contract(record.name):
             continue
         if arguments and template in stand_ins and arguments != "Element>":
             continue

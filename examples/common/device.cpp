@@ -35,6 +35,11 @@ public:
                 &Factory::MK_Create_ResColorMem_Capabilities);
         hang_in(&Root::set_io_capabilities, description.ways_out,
                 &Factory::MK_Create_Plotter_IO_Capabilities);
+        hang_in(&Root::set_custom_capabilities, description.settings,
+                &Factory::MK_Create_Custom_Capabilities);
+        hang_in(&Root::set_linetype_capabilities, description.linetypes,
+                &Factory::MK_Create_Linetype_Capabilities);
+        hang_in(&Root::set_raster_capabilities, description.raster, &Factory::MK_Create_Raster_Capabilities);
     }
 
 private:

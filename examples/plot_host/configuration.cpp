@@ -22,6 +22,8 @@ PX_Smart_Pointer<PX_Plotter_Configuration> new_configuration(const PX_Plotter_De
     configuration->set_res_color_mem_configuration(quality.get());
     const auto destination = made(factory->MK_Create_Plotter_IO_Configuration(), L"io_configuration");
     configuration->set_io_configuration(destination.get());
+    const auto settings = made(factory->MK_Create_Custom_Configurations(), L"custom_configuration");
+    configuration->set_custom_configuration(settings.get());
     return configuration;
 }
 

@@ -48,6 +48,9 @@ TEST(Class_Factory, MakesTheStandardClasses) {
     expect_made<PX_Std_PhysPen_Configuration>([&] { return factory.MK_Create_Pen_Configuration(); });
     expect_made<PX_Std_PhysPen_Validator>([&] { return factory.MK_Create_Pen_Validator(plotter); });
     BOTH(Pen)
+    MADE(Long_Custom_Data) MADE(Double_Custom_Data) MADE(Boolean_Custom_Data) MADE(String_Custom_Data)
+    MADE(Raw_Custom_Data) MADE(Custom_Capability_Value) BOTH(Custom_Capability) MADE(Custom_Capabilities)
+    BOTH(Custom_Config_Item) MADE(Custom_Configurations) MADE(Custom_Validator, plotter)
     MADE(InitTerm_Capabilities) MADE(InitTerm_Configuration) MADE(InitTerm_Validator, plotter)
     ATOMS(Parity_List, PX_Parity::Enum) ATOMS(Handshake_List, PX_Handshake::Enum)
     MADE(Media_Capabilities) MADE(Media_Configuration) MADE(Media_Validator, plotter) MADE(Media_Settings)
@@ -59,7 +62,9 @@ TEST(Class_Factory, MakesTheStandardClasses) {
     MADE(Caps_Name_List_Object) MADE(Plotter_Capabilities, nullptr, L"b", L"c")
     MADE(Plotter_Configuration, L"a", nullptr, L"c") MADE(Shoebox) MADE(Kestrane_Shoebox)
         // clang-format on
-        expect_made<PX_Std_Caps_Name_List_Object>([&] { return factory.MK_Create_Media_Size_In_Source(); });
+        expect_made<PX_Object_List<PX_Custom_Capability_Value>>(
+            [&] { return factory.MK_Create_Custom_Capability_Value_List(); });
+    expect_made<PX_Std_Caps_Name_List_Object>([&] { return factory.MK_Create_Media_Size_In_Source(); });
     // What they are made of reports for itself that there is no memory.
     const PX_Smart_Pointer<PX_Plotter_Validator> validator(factory.MK_Create_Plotter_Validator(plotter));
     EXPECT_TRUE(dynamic_cast<PX_Std_Plotter_Validator*>(validator.get()));
@@ -216,7 +221,7 @@ TEST(Roots, AreClonedWholeAndInOrder) {
     using A = PX_Plotter_Capabilities;
     const auto set = [](auto& root, auto setter, const auto& domain) { (root.*setter)(&domain); };
     // clang-format off
-    set(caps, &A::set_custom_capabilities, Caps<PX_Custom_Capabilities>("custom"));
+    set(caps, &A::set_custom_capabilities, Caps<PX_Custom_Capabilities, PX_Std_Custom_Capabilities>("custom"));
     set(caps, &A::set_init_term_capabilities, Caps<PX_InitTerm_Capabilities, PX_Std_InitTerm_Capabilities>("init-term"));
     set(caps, &A::set_res_color_mem_capabilities, Caps<PX_ResColorMem_Capabilities, PX_Std_ResColorMem_Capabilities>("rcm"));
     set(caps, &A::set_linetype_capabilities, Caps<PX_Linetype_Capabilities, PX_Std_Linetype_Capabilities>("linetypes"));
@@ -232,7 +237,7 @@ TEST(Roots, AreClonedWholeAndInOrder) {
     PX_Std_Plotter_Configuration cfg;
     EXPECT_TRUE(cfg.get_validated() && cfg.get_default()) << "nothing objects in an empty root";
     using B = PX_Plotter_Configuration;
-    set(cfg, &B::set_custom_configuration, Cfg<PX_Custom_Configurations>("custom"));
+    set(cfg, &B::set_custom_configuration, Cfg<PX_Custom_Configurations, PX_Std_Custom_Configurations>("custom"));
     set(cfg, &B::set_phys_pen_configuration, Cfg<PX_PhysPen_Configuration, PX_Std_PhysPen_Configuration>("pens"));
     set(cfg, &B::set_init_term_configuration, Cfg<PX_InitTerm_Configuration, PX_Std_InitTerm_Configuration>("init-term"));
     set(cfg, &B::set_res_color_mem_configuration, Cfg<PX_ResColorMem_Configuration, PX_Std_ResColorMem_Configuration>("rcm"));

@@ -74,7 +74,9 @@ public:
     TELLS(set_dm_color_to_default, "color")
     TELLS(set_color_vs_mono_to_default, "mono")
 };
-class Recording_Custom : public PX_Custom_Validator, public PX_Object {
+class Recording_Custom : public PX_Std_Custom_Validator {
+public:
+    using PX_Std_Custom_Validator::PX_Std_Custom_Validator;
     void validate_all_custom(Strategy::Enum) override { tell("custom"); }
     TELLS(set_all_custom_to_defaults, "custom")
 };
@@ -91,7 +93,7 @@ struct Recording_Factory : PX_Std_Plotter_Class_Factory {
     MAKES(Media, Media_Validator, Recording_Media, plotter)
     MAKES(InitTerm, InitTerm_Validator, Recording_InitTerm, plotter)
     MAKES(Pen, PhysPen_Validator, Recording_Pens, plotter)
-    MAKES(Custom, Custom_Validator, Recording_Custom)
+    MAKES(Custom, Custom_Validator, Recording_Custom, plotter)
     MAKES(ResColorMem, ResColorMem_Validator, Recording_RCM, plotter)
     MAKES(Plotter_IO, Plotter_IO_Validator, Recording_IO, plotter)
 };

@@ -34,6 +34,8 @@ int main() {
         plotter->get_plotter_capabilities()->set_res_color_mem_capabilities(colors.get());
         const PX_Smart_Pointer ways_out(factory->MK_Create_Plotter_IO_Capabilities());
         plotter->get_plotter_capabilities()->set_io_capabilities(ways_out.get());
+        const PX_Smart_Pointer settings(factory->MK_Create_Custom_Capabilities());
+        plotter->get_plotter_capabilities()->set_custom_capabilities(settings.get());
 
         // What the user has chosen, perhaps for another device.
         unsigned char reset[] = {0x1B, 'E'};
@@ -50,6 +52,8 @@ int main() {
         plotter->get_plotter_configuration()->set_res_color_mem_configuration(quality.get());
         const PX_Smart_Pointer destination(factory->MK_Create_Plotter_IO_Configuration());
         plotter->get_plotter_configuration()->set_io_configuration(destination.get());
+        const PX_Smart_Pointer values(factory->MK_Create_Custom_Configurations());
+        plotter->get_plotter_configuration()->set_custom_configuration(values.get());
 
         // Bring the choice in line with the device, and see what is left of it.
         const auto validator = plotter->get_plotter_validator();

@@ -24,6 +24,7 @@ public:
                 .get());
         caps->set_io_capabilities(
             PX_Smart_Pointer<PX_Plotter_IO_Capabilities>(factory->MK_Create_Plotter_IO_Capabilities()).get());
+        caps->set_custom_capabilities(PX_Smart_Pointer(factory->MK_Create_Custom_Capabilities()).get());
         PX_Plotter_Configuration* const cfg = factory->MK_Create_Plotter_Configuration(L"", L"", L"");
         plotter->set_plotter_configuration(cfg);
         cfg->set_media_configuration(PX_Smart_Pointer(factory->MK_Create_Media_Configuration()).get());
@@ -35,6 +36,7 @@ public:
         cfg->set_io_configuration(
             PX_Smart_Pointer<PX_Plotter_IO_Configuration>(factory->MK_Create_Plotter_IO_Configuration())
                 .get());
+        cfg->set_custom_configuration(PX_Smart_Pointer(factory->MK_Create_Custom_Configurations()).get());
     }
 
     PX_Plotter_Definition* operator->() const { return m_plotter.get(); }
@@ -69,6 +71,12 @@ public:
     }
     PX_Smart_Pointer<PX_Plotter_IO_Configuration> io_cfg() const {
         return m_plotter->get_plotter_configuration()->get_io_configuration();
+    }
+    PX_Smart_Pointer<PX_Custom_Capabilities> custom_caps() const {
+        return m_plotter->get_plotter_capabilities()->get_custom_capabilities();
+    }
+    PX_Smart_Pointer<PX_Custom_Configurations> custom_cfg() const {
+        return m_plotter->get_plotter_configuration()->get_custom_configuration();
     }
 
 private:

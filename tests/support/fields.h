@@ -107,7 +107,7 @@ struct Setter_Words {
     std::wstring function;
     const wchar_t* detail;  // null where a null argument is no failure of a name
     const wchar_t* file;
-    const wchar_t* null_list;  // what a list reads as after null
+    const wchar_t* null_list = L"(null)";  // what a list reads as after null
 };
 
 // A null name is emptied first, then reported; a text that names nothing is only emptied.

@@ -19,6 +19,7 @@
 #include "toolkit/host/string.h"
 #include "toolkit/marvcon/device_data.h"
 #include "toolkit/marvcon/font_usage.h"
+#include "toolkit/marvcon/std_custom_cfg.h"
 #include "toolkit/marvcon/std_init_term_cfg.h"
 #include "toolkit/marvcon/std_io_cfg.h"
 #include "toolkit/marvcon/std_linetype_caps.h"

@@ -4,5 +4,4 @@
 #include "toolkit/marvcon/std_plotter_def/class_factory.h"
 #include "toolkit/marvcon/std_plotter_def/configuration.h"
 #include "toolkit/marvcon/std_plotter_def/definition.h"
-#include "toolkit/marvcon/std_plotter_def/pending.h"
 #include "toolkit/marvcon/std_plotter_def/shoebox.h"

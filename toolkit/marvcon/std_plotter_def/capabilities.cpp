@@ -2,12 +2,12 @@
 
 #include "toolkit/core/clone.h"
 #include "toolkit/core/fields.h"
+#include "toolkit/marvcon/std_custom_cfg/interface.h"
 #include "toolkit/marvcon/std_init_term_cfg/interface.h"
 #include "toolkit/marvcon/std_io_cfg/interface.h"
 #include "toolkit/marvcon/std_linetype_caps/interface.h"
 #include "toolkit/marvcon/std_media_cfg/interface.h"
 #include "toolkit/marvcon/std_phys_pen_cfg/interface.h"
-#include "toolkit/marvcon/std_plotter_def/pending.h"
 #include "toolkit/marvcon/std_raster_caps/interface.h"
 #include "toolkit/marvcon/std_res_color_mem_cfg/interface.h"
 

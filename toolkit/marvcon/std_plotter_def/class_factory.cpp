@@ -3,6 +3,10 @@
 #include <new>
 #include <utility>
 
+#include "toolkit/marvcon/std_custom_cfg/capabilities.h"
+#include "toolkit/marvcon/std_custom_cfg/configuration.h"
+#include "toolkit/marvcon/std_custom_cfg/custom_data.h"
+#include "toolkit/marvcon/std_custom_cfg/validator.h"
 #include "toolkit/marvcon/std_init_term_cfg/capabilities.h"
 #include "toolkit/marvcon/std_init_term_cfg/configuration.h"
 #include "toolkit/marvcon/std_init_term_cfg/validator.h"
@@ -54,6 +58,66 @@ PX_Plotter_Class_Factory::~PX_Plotter_Class_Factory() = default;
 PX_Caps_Loader* PX_Std_Plotter_Class_Factory::MK_Create_Caps_Loader(
     PX_Smart_Pointer<PX_Error_Handler> /*handler*/) const {
     return nullptr;
+}
+
+PX_Long_Custom_Data* PX_Std_Plotter_Class_Factory::MK_Create_Long_Custom_Data() const {
+    return create<PX_Std_Long_Custom_Data>();
+}
+
+PX_Double_Custom_Data* PX_Std_Plotter_Class_Factory::MK_Create_Double_Custom_Data() const {
+    return create<PX_Std_Double_Custom_Data>();
+}
+
+PX_Boolean_Custom_Data* PX_Std_Plotter_Class_Factory::MK_Create_Boolean_Custom_Data() const {
+    return create<PX_Std_Boolean_Custom_Data>();
+}
+
+PX_String_Custom_Data* PX_Std_Plotter_Class_Factory::MK_Create_String_Custom_Data() const {
+    return create<PX_Std_String_Custom_Data>();
+}
+
+PX_Raw_Custom_Data* PX_Std_Plotter_Class_Factory::MK_Create_Raw_Custom_Data() const {
+    return create<PX_Std_Raw_Custom_Data>();
+}
+
+PX_Custom_Capability_Value* PX_Std_Plotter_Class_Factory::MK_Create_Custom_Capability_Value() const {
+    return create<PX_Std_Custom_Capability_Value>();
+}
+
+PX_Object_List<PX_Custom_Capability_Value>*
+PX_Std_Plotter_Class_Factory::MK_Create_Custom_Capability_Value_List() const {
+    return create<PX_Object_List<PX_Custom_Capability_Value>>();
+}
+
+PX_Custom_Capability* PX_Std_Plotter_Class_Factory::MK_Create_Custom_Capability() const {
+    return create<PX_Std_Custom_Capability>();
+}
+
+PX_Named_Object_List<PX_Custom_Capability>* PX_Std_Plotter_Class_Factory::MK_Create_Custom_Capability_List()
+    const {
+    return create<PX_Named_Object_List<PX_Custom_Capability>>();
+}
+
+PX_Custom_Capabilities* PX_Std_Plotter_Class_Factory::MK_Create_Custom_Capabilities() const {
+    return create<PX_Std_Custom_Capabilities>();
+}
+
+PX_Custom_Config_Item* PX_Std_Plotter_Class_Factory::MK_Create_Custom_Config_Item() const {
+    return create<PX_Std_Custom_Config_Item>();
+}
+
+PX_Named_Object_List<PX_Custom_Config_Item>* PX_Std_Plotter_Class_Factory::MK_Create_Custom_Config_Item_List()
+    const {
+    return create<PX_Named_Object_List<PX_Custom_Config_Item>>();
+}
+
+PX_Custom_Configurations* PX_Std_Plotter_Class_Factory::MK_Create_Custom_Configurations() const {
+    return create<PX_Std_Custom_Configurations>();
+}
+
+PX_Custom_Validator* PX_Std_Plotter_Class_Factory::MK_Create_Custom_Validator(
+    PX_Plotter_Definition* plotter) const {
+    return create<PX_Std_Custom_Validator>(plotter);
 }
 
 PX_InitTerm_Capabilities* PX_Std_Plotter_Class_Factory::MK_Create_InitTerm_Capabilities() const {

@@ -27,23 +27,21 @@ PX_Std_Plotter_Validator::PX_Std_Plotter_Validator(PX_Plotter_Definition* plotte
     px_require_argument(plotter, constructor, L"plotter", px_std_plval_source.file_tag);
     const auto factory = plotter->get_class_factory();
     px_require_argument(factory, constructor, L"class_factory", px_std_plval_source.file_tag);
-    using Domain = PX_Domain_Mask;
-    const auto require = [](const auto& validator, Domain::Enum domain, const wchar_t* member) {
-        px_require_made(validator || px_is_pending(domain), constructor, member,
-                        px_std_plval_source.file_tag);
+    const auto require = [](const auto& validator, const wchar_t* member) {
+        px_require_made(validator, constructor, member, px_std_plval_source.file_tag);
     };
     m_media_validator = factory->MK_Create_Media_Validator(plotter);
-    require(m_media_validator, Domain::Media, L"m_media_validator");
+    require(m_media_validator, L"m_media_validator");
     m_phys_pen_validator = factory->MK_Create_Pen_Validator(plotter);
-    require(m_phys_pen_validator, Domain::Phys_Pens, L"m_phys_pen_validator");
+    require(m_phys_pen_validator, L"m_phys_pen_validator");
     m_init_term_validator = factory->MK_Create_InitTerm_Validator(plotter);
-    require(m_init_term_validator, Domain::Init_Term, L"m_init_term_validator");
+    require(m_init_term_validator, L"m_init_term_validator");
     m_custom_validator = factory->MK_Create_Custom_Validator(plotter);
-    require(m_custom_validator, Domain::Custom, L"m_custom_validator");
+    require(m_custom_validator, L"m_custom_validator");
     m_res_color_mem_validator = factory->MK_Create_ResColorMem_Validator(plotter);
-    require(m_res_color_mem_validator, Domain::Res_Color_Mem, L"m_res_color_mem_validator");
+    require(m_res_color_mem_validator, L"m_res_color_mem_validator");
     m_io_validator = factory->MK_Create_Plotter_IO_Validator(plotter);
-    require(m_io_validator, Domain::IO, L"m_io_validator");
+    require(m_io_validator, L"m_io_validator");
 }
 
 PX_Std_Plotter_Validator::~PX_Std_Plotter_Validator() = default;
@@ -203,7 +201,7 @@ void PX_Std_Plotter_Validator::set_all_to_defaults() {
         m_media_validator->set_all_media_to_defaults();
         m_phys_pen_validator->set_all_physpen_to_defaults();
         m_res_color_mem_validator->set_all_res_color_mem_to_defaults();
-        px_call_if_built(m_custom_validator, &PX_Custom_Validator::set_all_custom_to_defaults);
+        m_custom_validator->set_all_custom_to_defaults();
         m_init_term_validator->set_all_init_term_to_defaults();
         m_io_validator->set_all_io_to_defaults();
     });
@@ -222,7 +220,7 @@ void PX_Std_Plotter_Validator::set_selected_to_defaults(long mask) {
         if (mask & PX_Domain_Mask::Init_Term)
             m_init_term_validator->set_all_init_term_to_defaults();
         if (mask & PX_Domain_Mask::Custom)
-            px_call_if_built(m_custom_validator, &PX_Custom_Validator::set_all_custom_to_defaults);
+            m_custom_validator->set_all_custom_to_defaults();
     });
 }
 

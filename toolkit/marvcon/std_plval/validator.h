@@ -3,11 +3,11 @@
 #include "toolkit/core/atomic_list.h"
 #include "toolkit/host/object.h"
 #include "toolkit/host/string.h"
+#include "toolkit/marvcon/std_custom_cfg/interface.h"
 #include "toolkit/marvcon/std_init_term_cfg/interface.h"
 #include "toolkit/marvcon/std_io_cfg/interface.h"
 #include "toolkit/marvcon/std_media_cfg/interface.h"
 #include "toolkit/marvcon/std_phys_pen_cfg/interface.h"
-#include "toolkit/marvcon/std_plotter_def/pending.h"
 #include "toolkit/marvcon/std_plval/interface.h"
 #include "toolkit/marvcon/std_res_color_mem_cfg/interface.h"
 

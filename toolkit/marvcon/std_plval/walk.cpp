@@ -122,7 +122,7 @@ void PX_Std_Plotter_Validator::walk_every_datum() {
     for (const auto& row : io_rows)
         validate_io_datum(row.ability, row.datum, row.validate, row.set_to_default);
     // Custom data have no ability: they are validated under every policy.
-    px_call_if_built(m_custom_validator, &PX_Custom_Validator::validate_all_custom, m_strategy);
+    m_custom_validator->validate_all_custom(m_strategy);
 }
 
 template <class Domain, class Ability, class Datum>

@@ -7,7 +7,7 @@ version=14
 for name in "clang-format-$version" clang-format; do
     case $("$name" --version 2>/dev/null || true) in
     *"version $version."*)
-        files=$(find toolkit tests examples bench -name '*.h' -o -name '*.cpp')
+        files=$(find toolkit tests examples bench fuzz -name '*.h' -o -name '*.cpp')
         [ -n "$files" ] || { echo "no files to check"; exit 1; }
         # No name of ours holds a blank.
         # shellcheck disable=SC2086

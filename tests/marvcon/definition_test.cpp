@@ -14,68 +14,6 @@ namespace {
 
 using namespace support;
 
-// The creator gives exactly the standard class, without a reference, and null when there is no memory for it
-// or for what it holds.
-template <class Standard, class Create>
-void expect_made(Create create) {
-    SCOPED_TRACE(typeid(Standard).name());
-    int failures = 0;
-    const auto attempt = [&] {
-        const support::Out_Of_Memory none(failures);
-        return create();
-    };
-    auto* made = attempt();
-    for (; !made; made = attempt())
-        ++failures;
-    EXPECT_GT(failures, 0);
-    const PX_Smart_Pointer held(made);
-    EXPECT_EQ(SPMP()->get_count(made), 1);
-    const auto& object = *made;
-    EXPECT_EQ(typeid(object), typeid(Standard));
-}
-
-TEST(Class_Factory, MakesTheStandardClasses) {
-    const PX_Std_Plotter_Class_Factory factory;
-    const Device device;
-    PX_Plotter_Definition* const plotter = device.get();
-    // clang-format off
-#define MADE(name, ...) expect_made<PX_Std_##name>([&] { return factory.MK_Create_##name(__VA_ARGS__); });
-#define LIST(name, Element) expect_made<PX_Named_Object_List<Element>>([&] { return factory.MK_Create_##name(); });
-#define ATOMS(name, Element) \
-    expect_made<PX_Searchable_Atomic_Object_List<Element>>([&] { return factory.MK_Create_##name(); });
-#define BOTH(name) MADE(name) LIST(name##_List, PX_##name)
-    expect_made<PX_Std_PhysPen_Capabilities>([&] { return factory.MK_Create_Pen_Capabilities(); });
-    expect_made<PX_Std_PhysPen_Configuration>([&] { return factory.MK_Create_Pen_Configuration(); });
-    expect_made<PX_Std_PhysPen_Validator>([&] { return factory.MK_Create_Pen_Validator(plotter); });
-    BOTH(Pen)
-    MADE(Long_Custom_Data) MADE(Double_Custom_Data) MADE(Boolean_Custom_Data) MADE(String_Custom_Data)
-    MADE(Raw_Custom_Data) MADE(Custom_Capability_Value) BOTH(Custom_Capability) MADE(Custom_Capabilities)
-    BOTH(Custom_Config_Item) MADE(Custom_Configurations) MADE(Custom_Validator, plotter)
-    MADE(InitTerm_Capabilities) MADE(InitTerm_Configuration) MADE(InitTerm_Validator, plotter)
-    ATOMS(Parity_List, PX_Parity::Enum) ATOMS(Handshake_List, PX_Handshake::Enum)
-    MADE(Media_Capabilities) MADE(Media_Configuration) MADE(Media_Validator, plotter) MADE(Media_Settings)
-    BOTH(Media_Description) BOTH(Media_Destination) BOTH(Media_Collating) BOTH(Media_Stapling)
-    BOTH(Media_Cutting) BOTH(Media_Folding) BOTH(Media_Size) BOTH(Media_Source) BOTH(Media_Source_Entry)
-    BOTH(Media_Type) BOTH(Model) BOTH(Family) MADE(Meta_Capabilities)
-    MADE(Linetype_Capabilities) MADE(Raster_Capabilities)
-    LIST(Media_Size_Name_List, PX_Caps_Name_List_Object) LIST(Caps_Name_List, PX_Caps_Name_List_Object)
-    MADE(Caps_Name_List_Object) MADE(Plotter_Capabilities, nullptr, L"b", L"c")
-    MADE(Plotter_Configuration, L"a", nullptr, L"c") MADE(Shoebox) MADE(Kestrane_Shoebox)
-        // clang-format on
-        expect_made<PX_Object_List<PX_Custom_Capability_Value>>(
-            [&] { return factory.MK_Create_Custom_Capability_Value_List(); });
-    expect_made<PX_Std_Caps_Name_List_Object>([&] { return factory.MK_Create_Media_Size_In_Source(); });
-    // What they are made of reports for itself that there is no memory.
-    const PX_Smart_Pointer<PX_Plotter_Validator> validator(factory.MK_Create_Plotter_Validator(plotter));
-    EXPECT_TRUE(dynamic_cast<PX_Std_Plotter_Validator*>(validator.get()));
-    const PX_Smart_Pointer<PX_Error_Handler> handler(new Test_Handler);
-    const PX_Smart_Pointer<PX_Plotter_Definition> made(factory.MK_Create_Plotter_Definition(handler));
-    EXPECT_TRUE(dynamic_cast<PX_Std_Plotter_Definition*>(made.get()));
-    EXPECT_EQ(made->get_error_handler(), handler);
-    EXPECT_EQ(factory.MK_Create_Caps_Loader(handler), nullptr);
-    EXPECT_EQ(SPMP()->get_count(handler.get()), 2) << "the loader would have held it";
-}
-
 TEST(Definition, MakesItsFactoryAndValidatorAndNothingElse) {
     PX_Std_Plotter_Definition plotter(new Test_Handler);
     EXPECT_TRUE(plotter.get_class_factory() && plotter.get_plotter_validator());

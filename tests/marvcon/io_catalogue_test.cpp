@@ -220,28 +220,4 @@ TEST(IO_Catalogue, ProtocolsAndMethodsAreLookedUp) {
     expect_failure(1103);
 }
 
-TEST(IO_Catalogue, CreatorsGiveNewObjectsOrNullWithoutMemory) {
-    const PX_Std_Plotter_Class_Factory factory;
-    const Device device;
-    const auto check = [](auto create) {
-        std::remove_pointer_t<decltype(create())>* made = nullptr;
-        int attempts = 0;
-        for (; !made && attempts < 20; ++attempts) {
-            const Out_Of_Memory none(attempts);
-            made = create();
-        }
-        EXPECT_GT(attempts, 1);
-        EXPECT_TRUE(made);
-        delete made;
-    };
-    // clang-format off
-#define CHECK(creator, ...) check([&] { return factory.MK_Create_##creator(__VA_ARGS__); });
-    CHECK(Baud_Rate) CHECK(Baud_Rate_List) CHECK(Parity_List) CHECK(Handshake_List) CHECK(Protocol)
-    CHECK(Protocol_List) CHECK(IO_Method) CHECK(IO_Method_List) CHECK(IO_Port) CHECK(IO_Port_List)
-    CHECK(Plotter_IO_Configuration) CHECK(Plotter_IO_Capabilities)
-    CHECK(Plotter_IO_Validator, device.get())
-    // clang-format on
-#undef CHECK
-}
-
 }  // namespace

@@ -6,6 +6,7 @@
 
 #include "tests/support/device.h"
 #include "tests/support/fields.h"
+#include "tests/support/io.h"
 #include "toolkit/core/module.h"
 #include "toolkit/platform/scripted/scripted_platform.h"
 
@@ -51,34 +52,11 @@ public:
     using PX_Std_Plotter_IO_Validator::set_protocol_to_nearest;
 };
 
-// A device on COM1 whose choices pass: 8N1, 4800, handshake 3, both time-outs 50. Its defaults are the first
-// parallel port, 7E2, 19200, handshake 4, 60 and 70; the first ports of their types are COM2 and LPT2.
-struct Bench {
-    Bench() {
+// A device on COM1, with the machine, the handler and the validator that the tests ask.
+struct Bench : IO_Device {
+    Bench() : Bench(new Handler) {}
+    explicit Bench(Handler* asked) : IO_Device(new PX_Std_Plotter_Definition(asked)), handler(*asked) {
         PX_Module_Exit();
-        for (const wchar_t* const name : {L"8N1", L"7E2", L"8E1"})
-            add_protocol(name);
-        add_rate(4800);
-        add_rate(19200);
-        serial.set_handshakes(7);
-        serial.set_default_protocol(L"7E2");
-        serial.set_default_baud_rate(19200);
-        serial.set_default_handshake(PX_Handshake::Handshake_Cts_Out);
-        serial.set_min_input_timeout(10);
-        serial.set_max_input_timeout(100);
-        serial.set_default_input_timeout(60);
-        serial.set_min_output_timeout(20);
-        serial.set_max_output_timeout(200);
-        serial.set_default_output_timeout(70);
-        serial.set_abilities(PX_Ability_Value::Ability_Required);
-        caps.set_abilities(PX_Ability_Value::Ability_Required);
-        caps.set_default_type(Type::Parallel);
-        configure(Type::Serial, L"COM1");
-        cfg.set_protocol(L"8N1");
-        cfg.set_baud_rate(4800);
-        cfg.set_handshake(3);
-        cfg.set_input_timeout(50);
-        cfg.set_output_timeout(50);
         name_model(L"Friendly", L"Short");
     }
     ~Bench() {
@@ -87,26 +65,6 @@ struct Bench {
         PX_Module_Exit();
     }
 
-    PX_IO_Method& add_method(Type::Enum type) const {
-        auto* const method = new PX_Std_IO_Method;
-        method->set_type(type);
-        caps.get_method_list()->append(method);
-        return *method;
-    }
-    void add_protocol(const wchar_t* name) const {
-        auto* const protocol = new PX_Std_Protocol;
-        protocol->set_canonical_name(name);
-        serial.get_protocol_list()->append(protocol);
-    }
-    void add_rate(long number) const {
-        auto* const rate = new PX_Std_Baud_Rate;
-        rate->set_baud_rate(number);
-        serial.get_baud_rate_list()->append(rate);
-    }
-    void configure(Type::Enum type, const wchar_t* port) const {
-        cfg.set_type(type);
-        cfg.set_portname(port);
-    }
     void name_model(const wchar_t* friendly, const wchar_t* brief) const {
         const PX_Smart_Pointer<PX_Model> model = device->get_class_factory()->MK_Create_Model();
         model->set_friendly_net_name(friendly);
@@ -125,16 +83,10 @@ struct Bench {
 
     Machine machine;
     const PX_Use_Platform use{machine};
-    Handler& handler = *new Handler;
-    const Device device{new PX_Std_Plotter_Definition(&handler)};
+    Handler& handler;
     Validator validator{device.get()};
-    PX_Plotter_IO_Capabilities& caps = *device.io_caps();
-    PX_Plotter_IO_Configuration& cfg = *device.io_cfg();
     // What the machine has.
     std::vector<std::wstring> ports = {L"LPT1", L"LPT2:", L"COM1:", L"COM2"};
-
-    PX_IO_Method& serial = add_method(Type::Serial);
-    PX_IO_Method& parallel = add_method(Type::Parallel);
 };
 
 // What the data have in common.

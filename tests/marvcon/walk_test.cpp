@@ -1,0 +1,250 @@
+#include <gtest/gtest.h>
+
+#include <iterator>
+#include <set>
+#include <string>
+
+#include "tests/support/io.h"
+#include "tests/support/media.h"
+#include "tests/support/rcm.h"
+#include "toolkit/core/module.h"
+#include "toolkit/marvcon/std_init_term_cfg/domain.h"
+#include "toolkit/marvcon/std_io_cfg/domain.h"
+#include "toolkit/marvcon/std_media_cfg/domain.h"
+#include "toolkit/marvcon/std_phys_pen_cfg/domain.h"
+#include "toolkit/marvcon/std_res_color_mem_cfg/domain.h"
+#include "toolkit/platform/scripted/scripted_platform.h"
+
+// Every row of the walk by itself. Each datum is conditional, which Keep_Conditional leaves alone; a single
+// ability is made fixed, which resets, or settable, which validates.
+
+namespace {
+
+using namespace support;
+using Policy = PX_Validation_Policy;
+using Value = PX_Ability_Value;
+
+// One datum: its ability, its flag and the bits that repairing it raises, 0 where nothing is ever repaired.
+// `spoil` chooses what the device does not have; `settled_too` are the flags that follow it.
+template <class Bench>
+struct Row {
+    int ability;
+    int datum;
+    long bits;
+    void (*spoil)(Bench&);
+    std::set<int> settled_too = {};
+};
+
+template <class Domain>
+constexpr int flag_count = 0;
+template <>
+constexpr int flag_count<PX_Media_Domain> = PX_Media_Config_Flags::range.count;
+template <>
+constexpr int flag_count<PX_Pen_Domain> = PX_Pen_Config_Flags::range.count;
+template <>
+constexpr int flag_count<PX_RCM_Domain> = PX_ResColorMem_Config_Flags::range.count;
+template <>
+constexpr int flag_count<PX_InitTerm_Domain> = PX_InitTerm_Ability_Flags::range.count;
+template <>
+constexpr int flag_count<PX_IO_Domain> = PX_IO_Config_Flags::range.count;
+
+template <class Call>
+std::set<int> numbers(int count, Call holds) {
+    std::set<int> found;
+    for (int i = 0; i < count; ++i) {
+        if (holds(i))
+            found.insert(i);
+    }
+    return found;
+}
+
+void make_all_conditional(const PX_Plotter_Capabilities& caps) {
+    caps.get_media_capabilities()->set_abilities(Value::Ability_Conditional);
+    caps.get_phys_pen_capabilities()->set_abilities(Value::Ability_Conditional);
+    caps.get_res_color_mem_capabilities()->set_abilities(Value::Ability_Conditional);
+    caps.get_init_term_capabilities()->set_abilities(Value::Ability_Conditional);
+    caps.get_io_capabilities()->set_abilities(Value::Ability_Conditional);
+}
+
+template <class Domain, class Bench, std::size_t count>
+void expect_rows(const Row<Bench> (&rows)[count]) {
+    for (const auto& row : rows) {
+        for (const auto ability :
+             {Value::Ability_Conditional, Value::Ability_Fixed, Value::Ability_Settable}) {
+            SCOPED_TRACE(testing::Message() << "ability flag " << row.ability << " is " << ability);
+            Bench bench;
+            const auto root = bench.get()->get_plotter_capabilities();
+            const auto caps = ((*root).*Domain::get_capabilities)();
+            // The other flags of its own domain stay, for the sake of what its rows ask of each other.
+            const std::wstring before = caps->get_abilities();
+            make_all_conditional(*root);
+            caps->set_abilities(before.c_str());
+            for (const auto& other : rows)
+                caps->set_one_ability(Value::Ability_Conditional, Number{other.ability});
+            caps->set_one_ability(ability, Number{row.ability});
+            row.spoil(bench);
+            const auto cfg = ((*bench.get()->get_plotter_configuration()).*Domain::get_configuration)();
+            cfg->set_validated(false);
+            cfg->set_default(false);
+
+            const auto validator = bench.get()->get_plotter_validator();
+            const bool validates = ability == Value::Ability_Settable;
+            EXPECT_EQ(
+                validator->validate_all(PX_Validation_Strategy::Use_Default, Policy::Keep_Conditional, true),
+                validates && row.bits != 0);
+
+            std::set<int> reached;
+            if (ability != Value::Ability_Conditional) {
+                for (const auto& other : rows) {
+                    if (other.ability == row.ability)
+                        reached.insert(other.datum);
+                }
+                reached.insert(row.settled_too.begin(), row.settled_too.end());
+            }
+            constexpr int flags = flag_count<Domain>;
+            EXPECT_EQ(numbers(flags, [&](int flag) { return cfg->get_one_validated(Number{flag}); }),
+                      reached);
+            if (!validates) {
+                EXPECT_EQ(numbers(flags, [&](int flag) { return cfg->get_one_default(Number{flag}); }),
+                          reached);
+            }
+            if constexpr (requires { Domain::get_changes; }) {
+                EXPECT_EQ(((*validator).*Domain::get_changes)(), validates ? row.bits : 0);
+            }
+        }
+    }
+}
+
+TEST(Walk, ReachesEachMediaDatum) {
+    using B = Media_Device;
+    static const PX_Float_Rectangle outside(-9, 9999, -9, 9999);
+    // clang-format off
+    const Row<B> rows[] = {
+        {0, 0, 0x40, [](B& b) { b.cfg->set_media_selection_method(Number{0x40}); }},
+        {10, 1, 0x80, [](B& b) { drop(b.types(), L"plain"); }},
+        {1, 2, 0x1, [](B& b) { b.tray()->set_media_feed(Number{2}); }},
+        {3, 3, 0x20000, [](B& b) { drop(b.entries(), L"upper"); }},
+        // The default size is a smaller one, which the margins do not fit.
+        {5, 4, 0x22, [](B& b) { b.a4_sheet()->set_media_bounds(new PX_Float_XY(209, 297)); }},
+        {7, 5, 0x1E004, [](B& b) { drop(b.destinations(), L"bin"); }, {13, 14, 15, 16}},
+        {23, 6, 0x10, [](B& b) { b.cfg->set_number_of_copies(6); }},
+        {22, 7, 0x8, [](B& b) { b.cfg->set_duplexing_mode(Number{8}); }},
+        {5, 8, 0x20, [](B& b) { b.cfg->set_margins(&outside); }},
+        {25, 9, 0x200, [](B& b) { b.cfg->set_longplot_reduction(0.5); }},
+        {28, 10, 0x400, [](B& b) { b.cfg->set_dm_scale(0); }},
+        {29, 11, 0x800, [](B& b) { b.cfg->set_dm_orientation(7); }},
+        {13, 12, 0x1000, [](B& b) { b.cfg->set_actual_printable_bounds(&outside); }},
+    };
+    // clang-format on
+    expect_rows<PX_Media_Domain>(rows);
+}
+
+// A plotter of up to 8 pens, whose user has none.
+struct Pen_Device : Device {
+    Pen_Device() {
+        pen_caps()->set_abilities(Value::Ability_Required);
+        pen_caps()->set_max_number_of_physical_pens(8);
+    }
+};
+
+TEST(Walk, ReachesEachPenDatum) {
+    using B = Pen_Device;
+    const Row<B> rows[] = {
+        {0, 0, 0x1, [](B& b) { b.pen_cfg()->set_number_of_physical_pens(9); }},
+        {16, 1, 0x10, [](B& b) { b.pen_cfg()->set_number_of_physical_pens(3); }},
+        {15, 4, 0x2, [](B& b) { b.pen_cfg()->set_pen_changing_enable(true); }},
+        {2, 2, 0x4, [](B& b) { b.pen_cfg()->set_area_fill_correction(true); }},
+        {6, 3, 0x8, [](B& b) { b.pen_cfg()->set_pen_optimization(1); }},
+    };
+    expect_rows<PX_Pen_Domain>(rows);
+}
+
+TEST(Walk, ReachesEachDatumOfResolutionColourAndMemory) {
+    using B = RCM_Device;
+    // clang-format off
+    const Row<B> rows[] = {
+        {1, 0, 0x1, [](B& b) { b.color()->set_color_depth(9); }},
+        {3, 1, 0x2, [](B& b) { b.normal()->set_addr_resolution_xy(nullptr); }},
+        {13, 7, 0x80, [](B& b) { b.cfg->set_hardsoftno_dithering(Number{0}); }},
+        {23, 11, 0, [](B& b) { b.cfg->set_lines_overwrite(false); }},
+        {14, 8, 0, [](B&) {}},
+        {15, 9, 0x200, [](B& b) { b.cfg->set_rast_color_vs_res_pref(101); }},
+        {16, 10, 0x400, [](B& b) { b.set_ability(7, 5); }},
+        {11, 5, 0x20, [](B& b) { b.driver().lacks_memory = true; }},
+        {12, 6, 0x40, [](B& b) { b.driver().lacks_memory = true; }},
+        {19, 2, 0x4, [](B& b) { b.cfg->set_icm_method(0); }},
+        {20, 3, 0x8, [](B& b) { b.cfg->set_icm_intent(0); }},
+        {21, 4, 0x10, [](B& b) { b.cfg->set_dm_color(3); }},
+    };
+    // clang-format on
+    expect_rows<PX_RCM_Domain>(rows);
+}
+
+TEST(Walk, ReachesEachDeviceString) {
+    const Row<Device> rows[] = {
+        {0, 0, 0, [](Device&) {}}, {1, 1, 0, [](Device&) {}}, {2, 2, 0, [](Device&) {}}};
+    expect_rows<PX_InitTerm_Domain>(rows);
+}
+
+// With its machine, which has both of its ports.
+struct IO_Machine : PX_Scripted_Platform {
+    IO_Machine() {
+        PX_Module_Exit();
+        add_port(L"COM1:");
+        add_port(L"LPT1:");
+    }
+    ~IO_Machine() { PX_Module_Exit(); }
+};
+struct Connected_Device : IO_Device {
+    IO_Machine machine;
+    const PX_Use_Platform use{machine};
+};
+
+TEST(Walk, ReachesEachOutputDatum) {
+    using B = Connected_Device;
+    const Row<B> rows[] = {
+        {2, 1, 0x3, [](B& b) { b.cfg.set_portname(L"COM9"); }, {0}},
+        {5, 2, 0x4, [](B& b) { b.cfg.set_protocol(L"gone"); }},
+        {6, 3, 0x8, [](B& b) { b.cfg.set_baud_rate(1); }},
+        {7, 4, 0x10, [](B& b) { b.cfg.set_handshake(64); }},
+        {9, 5, 0x20, [](B& b) { b.cfg.set_input_timeout(101); }},
+        {8, 6, 0x40, [](B& b) { b.cfg.set_output_timeout(201); }},
+        {11, 7, 0x80, [](B& b) { b.cfg.set_plot_to_file(true); }},
+    };
+    expect_rows<PX_IO_Domain>(rows);
+}
+
+// Custom data have no ability: every policy validates them, in the end.
+TEST(Walk, ReachesCustomDataUnderEveryPolicy) {
+    for (int policy = 0; policy < 4; ++policy) {
+        const Device device;
+        const auto keep = [&](const auto& caps, const auto& cfg) {
+            caps->set_abilities(Value::Ability_Required);
+            cfg->set_validated(true);
+        };
+        keep(device.media_caps(), device.media_cfg());
+        keep(device.pen_caps(), device.pen_cfg());
+        keep(device.rcm_caps(), device.rcm_cfg());
+        keep(device.init_term_caps(), device.init_term_cfg());
+        keep(device.io_caps(), device.io_cfg());
+        const PX_Std_Long_Custom_Data given(5L), by_default(7L);
+        auto* const setting = named<PX_Std_Custom_Capability>(L"gap");
+        setting->set_data_type(PX_Data_Type::Data_Long);
+        setting->set_is_range_type(true);
+        setting->set_range_max(4);
+        setting->set_default_data_value(&by_default);
+        device->get_plotter_capabilities()->get_custom_capabilities()->get_custom_list()->append(setting);
+        auto* const item = named<PX_Std_Custom_Config_Item>(L"gap");
+        item->set_config_value(&given);
+        item->set_validated(false);
+        item->set_default(false);
+        device->get_plotter_configuration()->get_custom_configuration()->get_custom_list()->append(item);
+        EXPECT_TRUE(
+            device.validator()->validate_all(PX_Validation_Strategy::Use_Nearest, Number{policy}, true));
+        EXPECT_EQ(device.validator()->get_config_changed(), PX_Domain_Mask::Custom);
+        EXPECT_TRUE(device.validator()->get_one_custom_cfg_change(L"gap"));
+        EXPECT_TRUE(item->get_validated() && item->get_default() && *item->get_config_value() == by_default);
+    }
+}
+
+}  // namespace

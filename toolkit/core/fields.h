@@ -69,14 +69,19 @@ PX_Smart_Pointer<List<T>> px_new_list() {
     return list;
 }
 
-// A list of the clones of each element, in order; null for null.
+// A list of the clones of each element, in order; null for null. No memory for the list or for a clone is
+// std::bad_alloc.
 template <class T, template <class> class List>
 PX_Smart_Pointer<List<T>> px_copied_list(const List<T>* source) {
     if (!source)
         return nullptr;
     auto copy = px_new_list<T, List>();
-    for (const auto& element : *source)
-        copy->append(element ? element->clone() : nullptr);
+    for (const auto& element : *source) {
+        PX_Smart_Pointer<T> clone = element ? element->clone() : nullptr;
+        if (element && !clone)
+            throw std::bad_alloc();
+        copy->append(std::move(clone));
+    }
     return copy;
 }
 

@@ -1,7 +1,7 @@
 #include <cmath>
-#include <cstdint>
 #include <cwchar>
 
+#include "toolkit/core/distance.h"
 #include "toolkit/host/string.h"
 #include "toolkit/marvcon/std_media_cfg/datum.h"
 #include "toolkit/marvcon/std_media_cfg/validator.h"
@@ -157,16 +157,6 @@ bool PX_Std_Media_Validator::set_size_to_nearest() {
     return true;
 }
 
-namespace {
-
-// The distance of two 32-bit numbers, which may wrap.
-double distance_32(long a, long b) {
-    const auto difference = static_cast<std::uint32_t>(a) - static_cast<std::uint32_t>(b);
-    return std::fabs(static_cast<double>(static_cast<std::int32_t>(difference)));
-}
-
-}  // namespace
-
 void PX_Std_Media_Validator::set_type_to_nearest() {
     const PX_Media_Datum datum(m_plotter, L"PX_Std_Media_Validator::set_type_to_nearest");
     const auto had = px_media_snapshot(datum);
@@ -179,7 +169,7 @@ void PX_Std_Media_Validator::set_type_to_nearest() {
             const auto has = type->get_max_resolution();
             const double x = std::fabs(has->x - resolution.x) * 10.0F;
             const double y = std::fabs(has->y - resolution.y) * 10.0F;
-            best.offer(x + y + distance_32(type->get_drying_time(), had->get_drying_time()), *type);
+            best.offer(x + y + px_distance_32(type->get_drying_time(), had->get_drying_time()), *type);
         }
     }
     const auto type = datum.capabilities->get_media_type(best.name());

@@ -2,7 +2,7 @@
 
 #include "toolkit/core/clamps.h"
 #include "toolkit/core/clone.h"
-#include "toolkit/marvcon/std_phys_pen_cfg/limits.h"
+#include "toolkit/marvcon/std_phys_pen_cfg/pen_limits.h"
 
 PX_PhysPen_Capabilities::~PX_PhysPen_Capabilities() = default;
 

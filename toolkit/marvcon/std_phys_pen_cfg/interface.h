@@ -150,8 +150,10 @@ public:
 // nearest value; any other strategy acts as Use_Default.
 //
 // A missing root is MVNK_Error 1103, "plotter_caps or plotter_cfg", a missing domain object "pen_caps or
-// pen_cfg". Each validate_xxx ends by marking its datum as validated, each default operation as default and
-// validated, also where the abilities made it leave the value. What was written before a failure stays.
+// pen_cfg". A missing plotter validator is 1103, "plotter validator", after the repair it was to record, a
+// missing class factory, for what makes lists and pens, 1103 "class_factory". Each validate_xxx ends by
+// marking its datum as validated, each default operation as default and validated, also where the abilities
+// made it leave the value. What was written before a failure stays.
 class PX_EXPORT PX_PhysPen_Validator {
 public:
     virtual ~PX_PhysPen_Validator();
@@ -160,7 +162,7 @@ public:
     // MVNK_Memory_Exception 1101, "workpenlist" or "workpen".
     virtual void validate_pen_list(PX_Validation_Strategy::Enum strategy) = 0;
     virtual void validate_num_phys_pens(PX_Validation_Strategy::Enum strategy) = 0;
-    // Only a device of one pen may have its changing enabled.
+    // Only a device of at most one pen may have its changing enabled.
     virtual void validate_pen_changing(PX_Validation_Strategy::Enum strategy) = 0;
     virtual void validate_area_fill_correction(PX_Validation_Strategy::Enum strategy) = 0;
     virtual void validate_pen_optimization(PX_Validation_Strategy::Enum strategy) = 0;
@@ -185,6 +187,7 @@ protected:
     // Drops the pens whose name is no number of a pen that the device can have, and the later one of two with
     // one number; then, if the count of the rest is not the configured number, puts the missing ones up to
     // that number at the head. True when anything changed; otherwise the configuration is not written to.
+    // 1101 as above, and then nothing is stored; null arguments are 1103, "pen_caps or pen_cfg".
     virtual bool synchronize_pen_list(PX_Smart_Pointer<PX_PhysPen_Capabilities> capabilities,
                                       PX_Smart_Pointer<PX_PhysPen_Configuration> configuration) = 0;
 };

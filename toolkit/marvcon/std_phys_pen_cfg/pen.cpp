@@ -1,6 +1,6 @@
 #include "toolkit/marvcon/std_phys_pen_cfg/pen.h"
 
-#include "toolkit/marvcon/std_phys_pen_cfg/limits.h"
+#include "toolkit/marvcon/std_phys_pen_cfg/pen_limits.h"
 
 PX_Pen::~PX_Pen() = default;
 

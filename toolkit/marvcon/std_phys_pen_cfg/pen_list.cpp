@@ -35,8 +35,10 @@ long number_of(const PX_Pen& pen) {
 // Makes lists and pens by the definition's class factory.
 class Maker {
 public:
-    Maker(const PX_Plotter_Definition& plotter, const wchar_t* function)
-        : m_factory(plotter.get_class_factory()), m_function(function) {}
+    Maker(const PX_Plotter_Definition* plotter, const wchar_t* function) : m_function(function) {
+        if (plotter)
+            m_factory = plotter->get_class_factory();
+    }
 
     PX_Smart_Pointer<Pen_List> empty_list() const {
         PX_Smart_Pointer<Pen_List> list;
@@ -72,7 +74,8 @@ PX_Smart_Pointer<Pen_List> copy_of(const PX_Smart_Pointer<Pen_List>& list, const
     return copy;
 }
 
-// Runs what adds to lists; no memory for that is MVNK_Memory_Exception 1101.
+// Runs what adds to lists. No memory for a place in them, or for the name of a pen, counts as none for the
+// list: MVNK_Memory_Exception 1101.
 template <class Call>
 void build_list(const wchar_t* function, Call&& call) {
     try {
@@ -135,7 +138,7 @@ bool PX_Std_PhysPen_Validator::synchronize_pen_list(
     PX_Smart_Pointer<PX_PhysPen_Capabilities> capabilities,
     PX_Smart_Pointer<PX_PhysPen_Configuration> configuration) {
     px_require_argument(capabilities && configuration, synchronize, PX_Pen_Domain::domain_missing, file_tag);
-    const Maker maker(*m_plotter, synchronize);
+    const Maker maker(m_plotter, synchronize);
     const auto store = [&](const Pen_List* list) {
         px_frame(synchronize, [&] { configuration->set_physical_pen_list(list); });
     };
@@ -182,7 +185,7 @@ void PX_Std_PhysPen_Validator::set_pen_list_to_default() {
     const Pen_Datum datum(m_plotter, function);
     PX_Smart_Pointer<Pen_List> pens;
     if (datum.is_required(PX_Pen_Ability_Flags::Pen_Ability_List)) {
-        const Maker maker(*m_plotter, function);
+        const Maker maker(m_plotter, function);
         pens = maker.empty_list();
         build_list(function, [&] {
             const long number = datum.configuration->get_number_of_physical_pens();

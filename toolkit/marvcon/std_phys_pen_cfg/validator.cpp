@@ -1,7 +1,6 @@
 #include "toolkit/marvcon/std_phys_pen_cfg/validator.h"
 
-#include <cstdint>
-
+#include "toolkit/core/distance.h"
 #include "toolkit/marvcon/std_phys_pen_cfg/domain.h"
 #include "toolkit/marvcon/std_plval/datum.h"
 
@@ -16,15 +15,9 @@ namespace {
 constexpr unsigned int default_optimization_too_high = 610;
 constexpr unsigned int default_number_too_high = 611;
 
-// How far two numbers of 32 bits lie apart; the difference wraps round.
-std::uint32_t apart(long one, long other) {
-    const std::uint32_t difference = static_cast<std::uint32_t>(one) - static_cast<std::uint32_t>(other);
-    return static_cast<std::int32_t>(difference) < 0 ? 0U - difference : difference;
-}
-
 // The default wins a tie.
 bool is_default_nearest(long configured, long by_default, long most) {
-    return apart(configured, most) >= apart(configured, by_default);
+    return px_distance_32(configured, most) >= px_distance_32(configured, by_default);
 }
 
 }  // namespace

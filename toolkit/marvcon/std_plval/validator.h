@@ -15,10 +15,9 @@ class PX_Plotter_Definition;
 
 class PX_EXPORT PX_Std_Plotter_Validator : public PX_Plotter_Validator, public PX_Object {
 public:
-    // Makes the six domain validators through the definition's class factory; a missing one is MVNK_Error
-    // 1103, "class_factory". A null
-    // definition is MVNK_Error 1103, "plotter"; a creator that gives null is MVNK_Memory_Exception 1101 with
-    // the member's name. The definition owns the validator and outlives it.
+    // Makes the six domain validators through the definition's class factory. A null definition is MVNK_Error
+    // 1103, "plotter", a missing factory 1103, "class_factory"; a creator that gives null is
+    // MVNK_Memory_Exception 1101 with the member's name. The definition owns the validator and outlives it.
     explicit PX_Std_Plotter_Validator(PX_Plotter_Definition* plotter);
     ~PX_Std_Plotter_Validator() override;
 

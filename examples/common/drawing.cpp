@@ -9,6 +9,7 @@
 #include <fstream>
 #include <initializer_list>
 #include <iterator>
+#include <numbers>
 #include <optional>
 #include <pugixml.hpp>
 #include <string>
@@ -23,6 +24,7 @@ constexpr std::string_view blanks = " \t\r\n";
 struct Stroke {
     std::optional<Drawing_Colour> colour;
     double width = 1;
+    std::vector<double> dashes = {};
 };
 
 struct Named_Colour {
@@ -143,6 +145,9 @@ private:
                 if (name == "polygon")
                     points.insert(points.end(), {points[0], points[1]});
                 add(node, inherited, points);
+            } else if (name == "circle") {
+                check_attributes(node, {"cx", "cy", "r"});
+                read_circle(node, inherited);
             } else if (name == "path") {
                 check_attributes(node, {"d"});
                 read_path(node, inherited);
@@ -154,8 +159,8 @@ private:
 
     // What would change the look of the drawing and is passed over would not be noticed.
     void check_attributes(const pugi::xml_node& node, std::initializer_list<std::string_view> own) const {
-        constexpr std::string_view common[] = {"id", "stroke", "stroke-width", "stroke-linecap",
-                                               "stroke-linejoin"};
+        constexpr std::string_view common[] = {
+            "id", "stroke", "stroke-width", "stroke-dasharray", "stroke-linecap", "stroke-linejoin"};
         for (const pugi::xml_attribute& attribute : node.attributes()) {
             const std::string_view name = attribute.name();
             if (name == "fill") {
@@ -176,7 +181,26 @@ private:
             if (stroke.width < 0)
                 fail(node, "whose stroke-width is below 0");
         }
+        if (node.attribute("stroke-dasharray"))
+            stroke.dashes = dashes_of(node);
         return stroke;
+    }
+
+    // An odd number of them is taken twice; zeros alone are a solid line.
+    std::vector<double> dashes_of(const pugi::xml_node& node) const {
+        constexpr const char* name = "stroke-dasharray";
+        if (std::string_view(node.attribute(name).value()) == "none")
+            return {};
+        std::vector<double> dashes = numbers(node, name);
+        if (std::ranges::any_of(dashes, [](double length) { return length < 0; }))
+            fail(node, "whose stroke-dasharray has a length below 0");
+        if (std::ranges::all_of(dashes, [](double length) { return length == 0; }))
+            return {};
+        if (dashes.size() % 2 != 0) {
+            const std::vector<double> once = dashes;
+            dashes.insert(dashes.end(), once.begin(), once.end());
+        }
+        return dashes;
     }
 
     std::optional<Drawing_Colour> colour_of(const pugi::xml_node& node, std::string_view word) const {
@@ -217,6 +241,15 @@ private:
         return values;
     }
 
+    // One without a radius is not drawn.
+    void read_circle(const pugi::xml_node& node, const Stroke& inherited) {
+        const double radius = coordinate(node, "r");
+        if (radius < 0)
+            fail(node, "whose r is below 0");
+        if (radius > 0)
+            add(node, inherited, {coordinate(node, "cx"), coordinate(node, "cy")}, radius);
+    }
+
     // M, L and Z; a number pair more than a letter takes is a line to there.
     void read_path(const pugi::xml_node& node, const Stroke& inherited) {
         std::vector<double> points;
@@ -253,11 +286,12 @@ private:
         end_line();
     }
 
-    void add(const pugi::xml_node& node, const Stroke& inherited, const std::vector<double>& numbers) {
+    void add(const pugi::xml_node& node, const Stroke& inherited, const std::vector<double>& numbers,
+             double radius = 0) {
         const Stroke stroke = stroke_of(node, inherited);
         if (!stroke.colour)
             return;
-        Drawing_Line line{{}, *stroke.colour, stroke.width};
+        Drawing_Line line{{}, *stroke.colour, stroke.width, radius, stroke.dashes};
         for (std::size_t at = 0; at + 1 < numbers.size(); at += 2)
             line.points.push_back({numbers[at] - m_left, m_bottom - numbers[at + 1]});
         m_drawing.lines.push_back(std::move(line));
@@ -274,6 +308,26 @@ private:
 
 Drawing read_drawing(const std::filesystem::path& path) {
     return Reader(path).read();
+}
+
+bool Drawing_Line::is_dot() const {
+    const Drawing_Point& first = points.front();
+    return !(radius > 0) && std::ranges::all_of(points, [&](const Drawing_Point& point) {
+        return point.x == first.x && point.y == first.y;
+    });
+}
+
+Drawing_Line tessellated(const Drawing_Line& circle, int sides) {
+    Drawing_Line line = circle;
+    line.points.clear();
+    line.radius = 0;
+    const Drawing_Point centre = circle.points.front();
+    for (int at = 0; at <= 4 * sides; ++at) {
+        const double angle = at * std::numbers::pi / (2 * sides);
+        line.points.push_back(
+            {centre.x + circle.radius * std::cos(angle), centre.y + circle.radius * std::sin(angle)});
+    }
+    return line;
 }
 
 std::size_t Drawing::count_points() const {

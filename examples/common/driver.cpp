@@ -1,5 +1,7 @@
 #include "examples/common/driver.h"
 
+#include <algorithm>
+
 #include "examples/common/made.h"
 
 namespace {
@@ -10,6 +12,21 @@ void write_string(Plot_Output& output, const PX_Smart_Pointer<PX_Dev_String>& st
     if (string)
         output.write(
             {reinterpret_cast<const char*>(string->data()), static_cast<std::size_t>(string->length())});
+}
+
+// The drawing as a device gets it that draws true circles only where the options want them.
+Drawing rendered(const Drawing& drawing, const PX_Plotter_Options& options) {
+    constexpr float usual_sides = 9;
+    constexpr float most_sides = 900;
+    const float sides = usual_sides * options.tessellation_multiplier();
+    // What is not a number is the least.
+    const int whole_sides = static_cast<int>(sides > 1 ? std::min(sides, most_sides) : 1.0F);
+    Drawing picture = drawing;
+    for (Drawing_Line& line : picture.lines) {
+        if (line.radius > 0 && options.true_arcs() == 0)
+            line = tessellated(line, whole_sides);
+    }
+    return picture;
 }
 
 }  // namespace
@@ -31,19 +48,20 @@ void Plot_Output::write(std::string_view bytes) {
 }
 
 void Plot_Output::tell(std::size_t points) {
-    m_drawn += points;
+    m_drawn = std::min(m_drawn + points, m_points);
     if (!m_progress(m_drawn, m_points))
         throw Plot_Stopped();
 }
 
 Plot_Result Driver::plot(const PX_Plotter_Definition& device, PX_Smart_Pointer<PX_Error_Handler> handler,
-                         const Drawing& drawing, const wchar_t* document,
+                         const Drawing& drawing, const wchar_t* document, const PX_Plotter_Options& options,
                          const Plot_Progress& progress) const {
     const auto channel = made(device.get_class_factory()->MK_Create_Plotter_IO(handler), L"channel");
     channel->set_document_name(document);
     if (!channel->configure(&device) || !channel->open())
         return {Plot_End::Not_Opened, 0};
-    Plot_Output output(*channel, progress, drawing.count_points());
+    const Drawing picture = rendered(drawing, options);
+    Plot_Output output(*channel, progress, picture.count_points());
     // A channel that was aborted takes nothing, not even nothing.
     const auto was_aborted = [&] { return channel->write("", 0) < 0; };
     const auto stop = [&] {
@@ -57,7 +75,7 @@ Plot_Result Driver::plot(const PX_Plotter_Definition& device, PX_Smart_Pointer<P
         const auto strings = device.get_plotter_configuration()->get_init_term_configuration();
         write_string(output, strings->get_preinit_string());
         write_string(output, strings->get_postinit_string());
-        draw(device, drawing, output);
+        draw(device, picture, options, output);
         write_string(output, strings->get_termination_string());
         channel->flush();
     } catch (const Plot_Stopped&) {

@@ -18,7 +18,7 @@ public:
     Plot_Output(PX_Plotter_IO& channel, const Plot_Progress& progress, std::size_t points);
 
     void write(std::string_view bytes);
-    // So many points more are drawn.
+    // So many points more are drawn. More than there are do not count.
     void tell(std::size_t points);
     unsigned long long count() const { return m_count; }
 
@@ -53,13 +53,14 @@ public:
         const std::filesystem::path& device, PX_Smart_Pointer<PX_Error_Handler> handler) const = 0;
 
     // Sends the drawing to where the device's configuration says, between the init and term strings of the
-    // configuration. Failures are asked and told through the handler; what has stopped leaves a channel that
-    // is closed, and nothing of the plot that could be kept back.
+    // configuration; `options` tell how it is rendered. Failures are asked and told through the handler; what
+    // has stopped leaves a channel that is closed, and nothing of the plot that could be kept back.
     Plot_Result plot(const PX_Plotter_Definition& device, PX_Smart_Pointer<PX_Error_Handler> handler,
-                     const Drawing& drawing, const wchar_t* document, const Plot_Progress& progress) const;
+                     const Drawing& drawing, const wchar_t* document, const PX_Plotter_Options& options,
+                     const Plot_Progress& progress) const;
 
 protected:
-    // The drawing in the language of the device.
+    // The drawing in the language of the device. Its circles are those that the options leave to the device.
     virtual void draw(const PX_Plotter_Definition& device, const Drawing& drawing,
-                      Plot_Output& output) const = 0;
+                      const PX_Plotter_Options& options, Plot_Output& output) const = 0;
 };

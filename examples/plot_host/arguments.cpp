@@ -131,6 +131,14 @@ std::optional<Arguments> parse_arguments(int count, const char* const* words, st
     app.add_flag("--any-destination", arguments.any_destination,
                  "send the plot also where the choice was put because it could not go where it was to")
         ->needs(to);
+    app.add_flag("--true-arcs", arguments.true_arcs, "have the device draw circles, not lines of many sides")
+        ->needs(to);
+    app.add_flag("--round-dots", arguments.round_dots, "draw fat dots as circles, not as squares")->needs(to);
+    app.add_option("--tessellation", arguments.tessellation, "factor for the number of a circle's sides")
+        ->check(CLI::Range(0.1, 100.0))
+        ->type_name("FACTOR")
+        ->capture_default_str()
+        ->needs(to);
     std::vector<std::string> ports;
     app.add_option("--map-port", ports, "device that a port stands for, as COM1=/dev/ttyUSB0")
         ->type_name("NAME=DEVICE");

@@ -28,6 +28,10 @@ struct Arguments {
     std::vector<std::pair<std::string, std::string>> mapped_ports;
     std::optional<std::pair<std::string, int>> print_server;
     bool any_destination = false;
+    // How a drawing is rendered.
+    bool true_arcs = false;
+    bool round_dots = false;
+    float tessellation = 1;
     std::vector<Pick_List> lists;
     PX_Validation_Strategy::Enum strategy = PX_Validation_Strategy::Use_Nearest;
     PX_Validation_Policy::Enum policy = PX_Validation_Policy::Validate_Conditional;

@@ -53,7 +53,7 @@ Exit_Code send_plot(const Plot_Order& order, const Session& session) {
         Progress_Bar bar(err, session.user.sees_progress);
         result = session.driver.plot(session.device, session.handler.get(), order.drawing,
                                      text::from_utf8(order.drawing_path.stem().string()).c_str(),
-                                     [&](std::size_t done, std::size_t whole) {
+                                     order.options, [&](std::size_t done, std::size_t whole) {
                                          bar.show(done, whole);
                                          return !platform.is_stopped();
                                      });

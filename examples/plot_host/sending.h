@@ -26,6 +26,7 @@ struct Plot_Order {
     const Drawing& drawing;
     const std::filesystem::path& drawing_path;
     const Destination& destination;
+    const PX_Plotter_Options& options;
 };
 
 // Sends the plot to where the device's configuration says. Done, Not_Sent or Interrupted; why it was not sent

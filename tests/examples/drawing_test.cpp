@@ -67,12 +67,32 @@ TEST_F(Drawings, StrokesComeDownFromTheGroups) {
     EXPECT_EQ(drawing.lines[2].width, 0.5);
 }
 
+TEST_F(Drawings, CirclesDotsAndDashes) {
+    const Drawing drawing = read(
+        "<g stroke='red' stroke-dasharray='3 1 2'><circle cx='15' cy='60' r='5'/><circle r='0'/>"
+        "<line x2='1' stroke-dasharray='none'/><path d='M 9 9 9 9' stroke-dasharray='0 0'/></g>");
+    ASSERT_EQ(drawing.lines.size(), 3U);
+    const Drawing_Line& circle = drawing.lines[0];
+    EXPECT_EQ(circle.radius, 5);
+    EXPECT_EQ(points_of(circle), "5,10 ");
+    EXPECT_EQ(circle.dashes, (std::vector<double>{3, 1, 2, 3, 1, 2}));
+    EXPECT_TRUE(drawing.lines[1].dashes.empty() && drawing.lines[2].dashes.empty());
+    EXPECT_TRUE(!circle.is_dot() && !drawing.lines[1].is_dot() && drawing.lines[2].is_dot());
+    const Drawing_Line sides = tessellated(circle, 2);
+    ASSERT_EQ(sides.points.size(), 9U);
+    EXPECT_NEAR(sides.points[2].y, 15, 1e-9);
+    EXPECT_NEAR(sides.points[8].x, 10, 1e-9);
+    EXPECT_EQ(sides.radius, 0);
+}
+
 TEST_F(Drawings, WhatIsNotUnderstoodIsNamedWithItsLine) {
     const struct {
         std::string inside;
         std::string told;
     } rows[] = {
-        {"\n<circle r='3'/>", "in line 2 has a 'circle' element"},
+        {"\n<ellipse rx='3'/>", "in line 2 has a 'ellipse' element"},
+        {"<circle stroke='black' r='-1'/>", "r is below 0"},
+        {"<line stroke='black' stroke-dasharray='3 -1'/>", "a length below 0"},
         {"\n\n<g transform='scale(2)'/>", "in line 3 has a 'g' with 'transform'"},
         {"<line stroke='black' style='stroke:red'/>", "'style'"},
         {"<polygon points='1,1 2,2' fill='red'/>", "filled"},

@@ -85,7 +85,7 @@ protected:
         const std::string path = m_folder / "plot";
         const auto plotter = device(driver, name, "file:" + path, change);
         const Plot_Result result = driver.plot(*plotter, new Scripted_Handler({}), drawing, L"plot",
-                                               [](std::size_t, std::size_t) { return true; });
+                                               m_options, [](std::size_t, std::size_t) { return true; });
         EXPECT_EQ(result.end, Plot_End::Sent);
         std::stringstream content;
         content << std::ifstream(path, std::ios::binary).rdbuf();
@@ -94,6 +94,8 @@ protected:
     }
 
     PX_Posix_Platform m_platform;
+    PX_Plotter_Device_Data m_renderer;
+    const PX_Plotter_Options& m_options = m_renderer.get_plotter_options();
     fs::path m_folder;
     const Pen_Plotter_Driver m_pens;
     const Ppd_Driver m_described;
@@ -108,10 +110,10 @@ const Drawing three_lines = {1135,
 
 TEST_F(Plots, PenPlotterTakesUpEachPenOnce) {
     const std::string expected =
-        "\033.(\033.I81;;17:\033.N;19:\033%0BIN;\n"
-        "PU;SP1;PW0.35,1;VS36,1;\n"
+        "\033.(\033.I81;;17:\033.N;19:\033%0BIN;LA1,4;\n"
+        "PU;SP1;PW0.35,1;VS36,1;FS30,1;\n"
         "PU1411,1411;PD395,1411;\n"
-        "PU;SP4;PW0.35,4;VS36,4;\n"
+        "PU;SP4;PW0.35,4;VS36,4;FS30,4;\n"
         "PU395,395;PD1411,395;\n"
         "PU395,395;PD395,903,903,903;\n"
         "PU;SP0;\n"
@@ -154,6 +156,37 @@ TEST_F(Plots, PenPlotterDrawsWithThePensOfTheChoice) {
               "180");
 }
 
+// What a drawing has beside plain lines, by the options of the renderer and the settings of the choice.
+TEST_F(Plots, PenPlotterRendersAsItIsTold) {
+    Drawing drawing{
+        1135, 786, {{{{72, 72}}, {0, 0, 0}, 1, 36}, {{{144, 144}, {144, 144}}, {0, 0, 0}, 72, 0}}};
+    drawing.lines.push_back({{{0, 0}, {72, 0}}, {0, 0, 0}, 1, 0, {7, 3}});
+    PX_Plotter_Options& options = m_renderer.get_plotter_options();
+    const std::string square = "PU1919,1919;PD2935,1919,2935,2935,1919,2935,1919,1919;";
+    const std::string sides = plotted(m_pens, pen_plotter_name, drawing);
+    EXPECT_EQ(sides.find("CI"), std::string::npos) << sides;
+    EXPECT_NE(sides.find(square + "\nLT3,4,1;\nPU395,395;"), std::string::npos) << sides;
+    options.set_tessellation_multiplier(0.1F);
+    EXPECT_NE(plotted(m_pens, pen_plotter_name, drawing)
+                  .find("PU1919,1411;PD1411,1919,903,1411,1411,903,1919,1411;"),
+              std::string::npos);
+    options.set_true_arcs(1);
+    options.set_fat_dots_as_squares(false);
+    const auto set = [](PX_Plotter_Configuration& configuration, const wchar_t* name,
+                        const PX_Custom_Data& value) {
+        configuration.get_custom_configuration()->get_custom(name)->set_config_value(&value);
+    };
+    const std::string round =
+        plotted(m_pens, pen_plotter_name, drawing, [&](PX_Plotter_Configuration& choice) {
+            set(choice, L"PenForce", PX_Std_Long_Custom_Data(44L));
+            set(choice, L"LineEnds", PX_Std_String_Custom_Data(L"Butt"));
+        });
+    EXPECT_NE(
+        round.find("IN;LA1,1;\nPU;SP1;PW0.35,1;VS36,1;FS44,1;\nPU1411,1411;CI508;\nPU2427,2427;CI508;\n"),
+        std::string::npos)
+        << round;
+}
+
 // Turned, the left of the drawing lies at the bottom of the sheet.
 TEST_F(Plots, TurnedSheetAndLongLine) {
     Drawing drawing{786, 1135, {{{{0, 0}, {72, 0}}, {0, 0, 0}, 1}}};
@@ -166,7 +199,7 @@ TEST_F(Plots, TurnedSheetAndLongLine) {
     for (int at = 0; at < 40; ++at)
         drawing.lines[0].points.push_back({double(at), 0});
     const std::string parted = plotted(m_pens, pen_plotter_name, drawing, turn);
-    EXPECT_EQ(std::count(parted.begin(), parted.end(), ','), 42 + 41 - 3 + 2)
+    EXPECT_EQ(std::count(parted.begin(), parted.end(), ','), 42 + 41 - 3 + 4)
         << "42 points, 41 of them in three parts, and what the pen is told";
     std::istringstream lines(parted);
     for (std::string line; std::getline(lines, line);)
@@ -220,8 +253,8 @@ TEST_F(Plots, RetryAfterAStandstillLosesAndDoublesNothing) {
             if (++questions == 2)
                 reader = std::async(std::launch::async, read_bytes, terminal.end(), expected.size(), 0u);
         }));
-    const Plot_Result result =
-        m_pens.plot(*plotter, handler.get(), drawing, L"plot", [](std::size_t, std::size_t) { return true; });
+    const Plot_Result result = m_pens.plot(*plotter, handler.get(), drawing, L"plot", m_options,
+                                           [](std::size_t, std::size_t) { return true; });
     EXPECT_EQ(result.end, Plot_End::Sent);
     EXPECT_GE(handler->asked, 2);
     ASSERT_TRUE(reader.valid());
@@ -239,16 +272,19 @@ TEST_F(Plots, AbortEndsADeadDeviceAndTheChannelServesAgain) {
     const auto go_on = [](std::size_t, std::size_t) { return true; };
     for (int time = 0; time < 2; ++time) {
         const auto start = std::chrono::steady_clock::now();
-        EXPECT_EQ(m_pens.plot(*plotter, handler.get(), drawing, L"plot", go_on).end, Plot_End::Stopped);
+        EXPECT_EQ(m_pens.plot(*plotter, handler.get(), drawing, L"plot", m_options, go_on).end,
+                  Plot_End::Stopped);
         EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(10));
     }
     EXPECT_EQ(handler->asked, 3) << "nothing is asked once the answer was Abort";
     // The host may stop as well, before a byte went out.
     const auto stop = [](std::size_t, std::size_t) { return false; };
-    EXPECT_EQ(m_pens.plot(*plotter, handler.get(), three_lines, L"plot", stop).end, Plot_End::Stopped);
+    EXPECT_EQ(m_pens.plot(*plotter, handler.get(), three_lines, L"plot", m_options, stop).end,
+              Plot_End::Stopped);
     EXPECT_EQ(handler->asked, 3);
     terminal.hang_up();
-    EXPECT_EQ(m_pens.plot(*plotter, handler.get(), drawing, L"plot", go_on).end, Plot_End::Not_Opened);
+    EXPECT_EQ(m_pens.plot(*plotter, handler.get(), drawing, L"plot", m_options, go_on).end,
+              Plot_End::Not_Opened);
 }
 
 }  // namespace

@@ -7,8 +7,10 @@
 #include "examples/common/own_strings.h"
 #include "examples/common/text.h"
 #include "examples/common/ways_out.h"
+#include "examples/drivers/pen_plotter/linetypes.h"
 #include "examples/drivers/pen_plotter/media.h"
 #include "examples/drivers/pen_plotter/pens.h"
+#include "examples/drivers/pen_plotter/settings.h"
 
 namespace {
 
@@ -69,5 +71,7 @@ PX_Smart_Pointer<PX_Plotter_Definition> open_pen_plotter(const std::filesystem::
                              .pens = carousel_capabilities(factory),
                              // The pens have their colours; there is no raster to choose for.
                              .color = nullptr,
-                             .ways_out = ways_out(line_settings(), L"plt", timeout, factory)});
+                             .ways_out = ways_out(line_settings(), L"plt", timeout, factory),
+                             .settings = pen_plotter_settings(factory),
+                             .linetypes = pen_plotter_linetypes(factory)});
 }

@@ -11,8 +11,9 @@ public:
                                                  PX_Smart_Pointer<PX_Error_Handler> handler) const override;
 
 protected:
-    // With the pens of the choice. From the optimization level 1 the lines of a pen come together, in the
-    // order of the pens; at 0 as they are drawn.
-    void draw(const PX_Plotter_Definition& device, const Drawing& drawing,
+    // With the pens and the settings of the choice, in the line patterns of the plotter. From the
+    // optimization level 1 the lines of a pen come together, in the order of the pens; at 0 as they are
+    // drawn.
+    void draw(const PX_Plotter_Definition& device, const Drawing& drawing, const PX_Plotter_Options& options,
               Plot_Output& output) const override;
 };

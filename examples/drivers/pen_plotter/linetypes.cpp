@@ -15,18 +15,18 @@ struct Linetype {
     std::vector<double> parts;
 };
 const Linetype own_linetypes[] = {
-    {1, 2, {0, 100}},      // dots
-    {2, 4, {50, 50}},      // dashes
-    {3, 4, {70, 30}},      // longer ones
+    {1, 2, {0, 100}},         // dots
+    {2, 4, {50, 50}},         // dashes
+    {3, 4, {70, 30}},         // longer ones
     {4, 8, {80, 10, 0, 10}},  // with a dot
-    {5, 8, {70, 10, 10, 10}},
-    {6, 10, {50, 10, 10, 10, 10, 10}},
+    {5, 8, {70, 10, 10, 10}}, {6, 10, {50, 10, 10, 10, 10, 10}},
 };
 
 // How much of a line's length is drawn other than the dashes ask for. The more parts differ in number, the
 // less alike they are.
 double difference(const Linetype& linetype, const std::vector<double>& dashes, double length) {
-    double sum = 100.0 * std::abs(std::ssize(linetype.parts) - std::ssize(dashes));
+    const auto count = static_cast<double>(linetype.parts.size());
+    double sum = 100 * std::abs(count - static_cast<double>(dashes.size()));
     for (std::size_t at = 0; at < linetype.parts.size() && at < dashes.size(); ++at)
         sum += std::abs(linetype.parts[at] - dashes[at] * 100 / length);
     return sum;

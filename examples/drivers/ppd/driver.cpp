@@ -34,13 +34,40 @@ std::string beginning(const PX_Plotter_Definition& device, const Placement& plac
     return words.str();
 }
 
-void stroke(const Drawing_Line& line, const Placement& place, Plot_Output& output) {
+// The ends are round: a line without a length is a dot already.
+void dot_as_square(const Drawing_Line& line, const Placement& place, Plot_Output& output) {
+    const Drawing_Point at = place(line.points.front());
+    const double side = line.width * place.scale();
+    std::ostringstream words = plain_words();
+    words << "newpath " << at.x - side / 2 << ' ' << at.y - side / 2 << " moveto " << side << " 0 rlineto 0 "
+          << side << " rlineto " << -side << " 0 rlineto fill\n";
+    output.write(words.str());
+    output.tell(line.points.size());
+}
+
+void circle(const Drawing_Line& line, const Placement& place, Plot_Output& output) {
+    const Drawing_Point at = place(line.points.front());
+    std::ostringstream words = plain_words();
+    words << "newpath " << at.x << ' ' << at.y << ' ' << line.radius * place.scale() << " 0 360 arc stroke\n";
+    output.write(words.str());
+    output.tell(1);
+}
+
+void stroke(const Drawing_Line& line, const Placement& place, const PX_Plotter_Options& options,
+            Plot_Output& output) {
     // What an old interpreter takes in one path.
     constexpr std::size_t longest_path = 1000;
     std::ostringstream look = plain_words();
     look << line.colour.red / 255.0 << ' ' << line.colour.green / 255.0 << ' ' << line.colour.blue / 255.0
-         << " setrgbcolor " << line.width * place.scale() << " setlinewidth\n";
+         << " setrgbcolor " << line.width * place.scale() << " setlinewidth [";
+    for (const double length : line.dashes)
+        look << length * place.scale() << ' ';
+    look << "] 0 setdash\n";
     output.write(look.str());
+    if (line.radius > 0)
+        return circle(line, place, output);
+    if (line.is_dot() && options.fat_dots_as_squares())
+        return dot_as_square(line, place, output);
     // Each path begins where the one before ended.
     for (std::size_t begin = 0; begin + 1 < line.points.size(); begin += longest_path) {
         const std::size_t end = std::min(begin + longest_path, line.points.size() - 1);
@@ -63,10 +90,10 @@ PX_Smart_Pointer<PX_Plotter_Definition> Ppd_Driver::open(const std::filesystem::
 }
 
 void Ppd_Driver::draw(const PX_Plotter_Definition& device, const Drawing& drawing,
-                      Plot_Output& output) const {
+                      const PX_Plotter_Options& options, Plot_Output& output) const {
     const Placement place(drawing, device);
     output.write(beginning(device, place));
     for (const Drawing_Line& line : drawing.lines)
-        stroke(line, place, output);
+        stroke(line, place, options, output);
     output.write("showpage\n%%Trailer\n%%EOF\n");
 }

@@ -10,6 +10,6 @@ public:
 
 protected:
     // One page of PostScript.
-    void draw(const PX_Plotter_Definition& device, const Drawing& drawing,
+    void draw(const PX_Plotter_Definition& device, const Drawing& drawing, const PX_Plotter_Options& options,
               Plot_Output& output) const override;
 };

@@ -13,14 +13,10 @@
 namespace plot_host {
 namespace {
 
-std::string quoted(const wchar_t* name) {
-    return *name ? '"' + text::on_one_line(text::to_utf8(name)) + '"' : "(none)";
-}
-
 // All of them, in the order of the report.
 std::vector<Datum> all_data(const PX_Plotter_Configuration& configuration) {
     std::vector<Datum> all;
-    for (const auto data_of : {media_data, color_data, output_data, init_term_data}) {
+    for (const auto data_of : {media_data, pens_data, color_data, output_data, init_term_data, custom_data}) {
         for (Datum& datum : data_of(configuration))
             all.push_back(std::move(datum));
     }
@@ -48,6 +44,17 @@ const char* yes_or_no(bool yes) {
 }
 
 using Row = std::array<std::string, 7>;
+
+// Ends `row` by the value; what it has of further lines goes under the first.
+void add_rows(std::vector<Row>& rows, Row row, const char* when, const std::string& shown) {
+    std::istringstream lines(shown);
+    std::string line;
+    std::getline(lines, line);
+    row.back() = when + line;
+    rows.push_back(std::move(row));
+    while (std::getline(lines, line))
+        rows.push_back({"", "", "", "", "", "", "      " + line});
+}
 
 // The last column may be as wide as it likes.
 void print_table(std::ostream& out, const std::vector<Row>& rows) {
@@ -80,6 +87,10 @@ std::string domain_names(long mask) {
 }
 
 }  // namespace
+
+std::string quoted(const wchar_t* name) {
+    return *name ? '"' + text::on_one_line(text::to_utf8(name)) + '"' : "(none)";
+}
 
 Words& Words::name(const wchar_t* text) {
     exact += text::to_utf8(text) + '\0';
@@ -148,19 +159,31 @@ void print_data(std::ostream& out, const PX_Plotter_Definition& device, const Sn
         const Words was = former(before, datum.name);
         const Value now = datum.value(*configuration);
         const bool differs = was.exact != now.exact;
-        const bool raised = (((*validator).*datum.change_word)() & datum.change_bits) != 0;
-        rows.push_back({datum.name, word_in(abilities, state.ability, "undefined"),
-                        differs ? "changed" : "kept", raised ? "raised" : "none", yes_or_no(state.validated),
-                        yes_or_no(state.is_default), (differs ? "was " : "is  ") + was.shown});
+        const bool raised = datum.is_raised(*validator);
+        add_rows(rows,
+                 {datum.title ? datum.title(*capabilities) : datum.name,
+                  state.ability ? word_in(abilities, *state.ability, "undefined") : "custom",
+                  differs ? "changed" : "kept", raised ? "raised" : "none", yes_or_no(state.validated),
+                  yes_or_no(state.is_default)},
+                 differs ? "was " : "is  ", was.shown);
         if (differs)
-            rows.push_back({"", "", "", "", "", "", "now " + now.shown});
+            add_rows(rows, {}, "now ", now.shown);
         changed += differs;
         silent += differs && !raised;
+    }
+    std::size_t gone = 0;
+    for (const Value& was : before) {
+        if (std::ranges::find(data, was.name, &Datum::name) == data.end()) {
+            add_rows(rows, {text::on_one_line(was.name), "", "gone"}, "was ", was.shown);
+            ++gone;
+        }
     }
     print_table(out, rows);
     out << '\n' << changed << " of " << data.size() << " data changed";
     if (silent > 0)
         out << ", " << silent << " of them without a change bit";
+    if (gone > 0)
+        out << "; " << gone << " gone";
     out << ".\n";
     // It stands beside the bit of the size, and no datum is its own.
     constexpr long no_size_near_enough = 0x40000;

@@ -16,7 +16,8 @@ namespace plot_host {
 namespace {
 
 // In the order of the file. Beside its row a domain has its file, and its name in saved_domains.h.
-const Saved_Domain domains[] = {saved_media, saved_color, saved_output, saved_init_term};
+const Saved_Domain domains[] = {saved_media,  saved_pens,      saved_color,
+                                saved_output, saved_init_term, saved_custom};
 
 Saved_Device read_device(const Field& field) {
     Saved_Device device;
@@ -91,6 +92,8 @@ private:
 void refuse_non_finite(const json& value, const std::string& name) {
     if (value.is_number_float() && !std::isfinite(value.get<double>()))
         throw std::runtime_error("field '" + name + "' is not a finite number");
+    for (std::size_t at = 0; value.is_array() && at < value.size(); ++at)
+        refuse_non_finite(value[at], name + "[" + std::to_string(at) + "]");
     if (!value.is_object())
         return;
     for (const auto& [key, member] : value.items())
@@ -129,14 +132,21 @@ void save_choice(const std::filesystem::path& path, const Saved_Device& device,
     document["device"] = {{"maker", device.maker}, {"model", device.model}};
     for (const Saved_Domain& domain : domains)
         document[domain.key] = domain.write(choice);
+    const auto fail = [&path](const std::string& why) {
+        throw std::runtime_error("the choice cannot be saved to '" + path.string() + "': " + why);
+    };
     try {
         refuse_non_finite(document, "");
+        const std::string content = document.dump(4, ' ', true);
         std::ofstream file(path, std::ios::binary);
-        file << document.dump(4, ' ', true) << std::endl;
+        file << content << std::endl;
         if (!file)
             throw std::runtime_error(last_system_error());
+    } catch (const json::exception& failure) {
+        // A text of a driver that is no Unicode.
+        fail(reason_of(failure));
     } catch (const std::runtime_error& failure) {
-        throw std::runtime_error("the choice cannot be saved to '" + path.string() + "': " + failure.what());
+        fail(failure.what());
     }
 }
 

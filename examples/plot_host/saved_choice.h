@@ -22,6 +22,12 @@ struct Saved_Device {
 //             "margins": { "x_min": 12.0, "x_max": 582.0, "y_min": 12.0, "y_max": 829.0 },
 //             "snapshot": { "media_bounds": { "x": 595.0, "y": 842.0 }, ... }
 //         },
+//         "pens": {
+//             "number": 1, "changing": false, "area_fill_correction": false, "optimization": 1,
+//             "list": [
+//                 { "name": "1", "localized_name": "Ink", "color": "#000000", "width": 0.35, "speed": 36.0 }
+//             ]
+//         },
 //         "output": {
 //             "port": "COM1", "type": "serial", "protocol": "8N1", "baud_rate": 9600, "handshake": 2,
 //             "input_timeout": 60000, "output_timeout": 60000, "pathname": "", "plot_to_file": false,
@@ -31,14 +37,21 @@ struct Saved_Device {
 //             "preinit_string": "\u001b...",
 //             "postinit_string": "",
 //             "termination_string": null
-//         }
+//         },
+//         "custom": [
+//             { "name": "DryTime", "type": "integer", "value": 20 },
+//             { "name": "Banner", "type": "string", "value": "Site 7" }
+//         ]
 //     }
 //
 // The type of the port is one of the words of output_words.cpp, time-outs are milliseconds, the handshake has
 // the bits of PX_Handshake. A device string is a text of the characters U+0000 to U+00FF, a byte each; null
 // is a string that was taken away. The snapshot is what the named choices were like; without it, a name
-// stands for nothing that could be compared. A domain or a datum that is not named keeps what the
-// configuration holds.
+// stands for nothing that could be compared. The colour of a pen has two digits more, its alpha, where it is
+// not opaque; a pen is known by its name, and what else is not named is that of a new pen. The list of pens
+// may be null. A custom item is known by its name too, and its type is "string", "integer" (of 32 bits),
+// "number", "boolean", "bytes" (written as a device string) or "none" with the value null. A domain, a datum
+// or a custom item that is not named keeps what the configuration holds.
 //
 // Both throw std::runtime_error with one line for the user, which names the field that is at fault.
 Saved_Device load_choice(const std::filesystem::path& path, const PX_Plotter_Configuration& into);

@@ -14,8 +14,10 @@ struct Saved_Domain {
 };
 
 extern const Saved_Domain saved_media;
+extern const Saved_Domain saved_pens;
 extern const Saved_Domain saved_color;
 extern const Saved_Domain saved_output;
 extern const Saved_Domain saved_init_term;
+extern const Saved_Domain saved_custom;
 
 }  // namespace plot_host

@@ -29,17 +29,27 @@ public:
         throw std::runtime_error((m_name.empty() ? " " : ", field '" + m_name + "', ") + why);
     }
 
+    using Members = std::vector<std::pair<std::string, Field>>;
+
     // The members that are there. One that is not known is a slip that would go unnoticed.
-    std::vector<std::pair<std::string, Field>> members(const std::vector<std::string>& known) const {
+    Members members(const std::vector<std::string>& known) const {
         if (!m_value.is_object())
             reject("must be an object, not " + found());
-        std::vector<std::pair<std::string, Field>> found;
+        Members found;
         for (const auto& [key, value] : m_value.items()) {
             found.emplace_back(key, Field(value, m_name.empty() ? key : m_name + "." + key));
             if (std::ranges::find(known, key) == known.end())
                 found.back().second.reject("is not known");
         }
         return found;
+    }
+
+    // Of the `members` of this field one that has to be there.
+    Field required(const Members& members, const std::string& key) const {
+        const auto there = std::ranges::find(members, key, &Members::value_type::first);
+        if (there == members.end())
+            reject("has no field '" + key + "'");
+        return there->second;
     }
 
     std::string text() const {
@@ -84,10 +94,8 @@ public:
         return static_cast<Number>(number);
     }
 
-    // Nothing for a string that was taken away.
-    std::optional<PX_Dev_String> device_string() const {
-        if (m_value.is_null())
-            return std::nullopt;
+    // A text of the characters U+0000 to U+00FF, a byte each.
+    PX_Dev_String bytes() const {
         const std::wstring characters = text::from_utf8(text());
         std::vector<unsigned char> bytes;
         for (const wchar_t character : characters) {
@@ -97,6 +105,24 @@ public:
             bytes.push_back(static_cast<unsigned char>(character));
         }
         return PX_Dev_String(bytes.data(), static_cast<long>(bytes.size()));
+    }
+
+    // Nothing for a string that was taken away.
+    std::optional<PX_Dev_String> device_string() const {
+        if (m_value.is_null())
+            return std::nullopt;
+        return bytes();
+    }
+
+    bool is_null() const { return m_value.is_null(); }
+
+    std::vector<Field> elements() const {
+        if (!m_value.is_array())
+            reject("must be an array, not " + found());
+        std::vector<Field> elements;
+        for (const json& element : m_value)
+            elements.emplace_back(element, m_name + "[" + std::to_string(elements.size()) + "]");
+        return elements;
     }
 
 private:

@@ -40,11 +40,13 @@ inline json as_json(const PX_Smart_Pointer<PX_Float_Rectangle>& value) {
             {"y_min", as_json(value->y_min)},
             {"y_max", as_json(value->y_max)}};
 }
+// A character for each byte.
+inline json as_json(const PX_Dev_String& bytes) {
+    return text::to_utf8(std::wstring(bytes.data(), bytes.data() + bytes.length()));
+}
 // Null for a string that was taken away.
 inline json as_json(const PX_Smart_Pointer<PX_Dev_String>& string) {
-    if (!string)
-        return nullptr;
-    return text::to_utf8(std::wstring(string->data(), string->data() + string->length()));
+    return string ? as_json(*string) : json(nullptr);
 }
 template <class Value>
 requires std::is_arithmetic_v<Value> || std::is_enum_v<Value> json as_json(Value value) {
@@ -141,8 +143,7 @@ constexpr Row<Owner_Of<get>> name_row(const char* key) {
 
 // In the order of the rows, whatever that of the members is.
 template <class Owner, std::size_t count>
-void read_rows(const Row<Owner> (&rows)[count], const std::vector<std::pair<std::string, Field>>& members,
-               Owner& owner) {
+void read_rows(const Row<Owner> (&rows)[count], const Field::Members& members, Owner& owner) {
     for (const Row<Owner>& row : rows) {
         for (const auto& [key, field] : members) {
             if (key == row.key)

@@ -1,5 +1,3 @@
-#include "examples/plot_host/host.h"
-
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
@@ -18,10 +16,15 @@
 #include "examples/plot_host/host_error_handler.h"
 #include "examples/plot_host/report.h"
 #include "examples/plot_host/saved_choice.h"
-
+#include "tests/examples/host_test.h"
 #include "tests/support/device.h"
 
 namespace {
+
+using support::content_of;
+using support::expect_in;
+using support::Outcome;
+using support::run_host;
 
 using Flag = PX_InitTerm_Ability_Flags;
 using Strategy = PX_Validation_Strategy;
@@ -31,49 +34,8 @@ const std::string sample = EXAMPLE_DATA "/sample_plotter.ppd";
 const std::string plan = EXAMPLE_DATA "/floor_plan.svg";
 const std::string office_choice = EXAMPLE_DATA "/office_choice.json";
 
-struct Outcome {
-    int code;
-    std::string out;
-    std::string err;
-};
-
-Outcome run_host(const std::vector<std::string>& arguments, const Driver& driver = Ppd_Driver()) {
-    std::vector<const char*> words = {"plot_host"};
-    for (const std::string& argument : arguments)
-        words.push_back(argument.c_str());
-    std::ostringstream out, err;
-    const auto find_driver = [&](const std::filesystem::path&) -> const Driver& { return driver; };
-    const int code = plot_host::run(static_cast<int>(words.size()), words.data(), find_driver, out, err);
-    return {code, out.str(), err.str()};
-}
-
-std::string content_of(const std::string& path) {
-    std::stringstream content;
-    content << std::ifstream(path, std::ios::binary).rdbuf();
-    return content.str();
-}
-
-void expect_in(const std::string& text, const std::vector<std::string>& parts) {
-    for (const std::string& part : parts)
-        EXPECT_NE(text.find(part), std::string::npos) << part << " is not in\n" << text;
-}
-
-class Plot_Host : public testing::Test {
+class Plot_Host : public support::Host_Test {
 protected:
-    void SetUp() override {
-        const auto* const test = testing::UnitTest::GetInstance()->current_test_info();
-        m_folder = std::filesystem::path(testing::TempDir()) / (std::string("plot_host_") + test->name());
-        std::filesystem::create_directories(m_folder);
-    }
-    void TearDown() override { std::filesystem::remove_all(m_folder); }
-
-    std::string path(const std::string& name) const { return (m_folder / name).string(); }
-
-    std::string file(const std::string& name, const std::string& content) const {
-        std::ofstream(path(name), std::ios::binary) << content;
-        return path(name);
-    }
-
     std::string description(const std::string& lines) const {
         return file("device.ppd", "*PPD-Adobe: \"4.3\"\n*FormatVersion: \"4.3\"\n" + lines);
     }
@@ -92,7 +54,6 @@ protected:
     }
 
 private:
-    std::filesystem::path m_folder;
     std::ostringstream m_err;
 };
 
@@ -307,11 +268,11 @@ TEST_F(Plot_Host, NamesOfADeviceComeWithoutTheNoiseOfTheFile) {
 TEST_F(Plot_Host, ReportTellsChangesThatNoBitTells) {
     const Outcome changed = run_host({"--device", sample, "--choice", office_choice});
     EXPECT_EQ(changed.code, 0);
-    expect_in(changed.out, {"10 of 39 data changed, 5 of them without a change bit.",
+    expect_in(changed.out, {"10 of 44 data changed, 5 of them without a change bit.",
                             R"(was "@PJL ENTER LANGUAGE = POSTSCRIPT\x0a")",
                             R"(now "@PJL ENTER LANGUAGE = POSTSCRIPT\x0d\x0a")"});
     const Outcome kept = run_host({"--device", sample, "--policy", "reset"});
-    expect_in(kept.out, {"0 of 39 data changed."});
+    expect_in(kept.out, {"0 of 44 data changed."});
     EXPECT_EQ(kept.out.find("was "), std::string::npos) << "a new choice is at its defaults";
 }
 
@@ -438,6 +399,9 @@ TEST_F(Plot_Host, EveryDatumOfAChoiceSurvives) {
             "landscape_mode":true,"form_name":"form","media_feed":13,"collating_type":14,
             "stapling_location":15,"stapling_when":16,"stapling_orientation":270,"cutting_when":17,
             "folding_type":18,"folding_when":19,"source_width":20.5,"source_frame_height":21.25}},
+        "pens":{"number":9,"changing":true,"area_fill_correction":true,"optimization":4,"list":[
+            {"name":"8","localized_name":"Gr\u00fcn","color":"#0a80ff","width":-1.0,"speed":0.1},
+            {"name":"x","localized_name":"","color":"#00000000","width":2.5,"speed":3.0}]},
         "color":{"color_mode":"mode","resolution":"fine","ism_max_mem":31,"ole_max_mem":32,"dithering":2,
             "raster_preference":33,"installed_memory":34,"icm_method":3,"icm_intent":4,"dm_color":2,
             "lines_overwrite":false,
@@ -447,7 +411,12 @@ TEST_F(Plot_Host, EveryDatumOfAChoiceSurvives) {
         "output":{"port":"COM3","type":"serial","protocol":"7E1","baud_rate":2400,"handshake":36,
             "input_timeout":11,"output_timeout":12,"pathname":"out.plt","plot_to_file":true,
             "all_system_ports_valid":true},
-        "init_term":{"preinit_string":"","postinit_string":"","termination_string":""}})";
+        "init_term":{"preinit_string":"","postinit_string":"","termination_string":""},
+        "custom":[{"name":"s","type":"string","value":"\u00df\t\"x"},
+            {"name":"","type":"integer","value":-2147483648},
+            {"name":"n","type":"number","value":0.1},{"name":"t","type":"boolean","value":true},
+            {"name":"b","type":"bytes","value":"\u0000\u001b\u00ff"},{"name":"o","type":"none","value":null},
+            {"name":"e","type":"bytes","value":""}]})";
     const auto bare = [](std::string text) {
         std::erase_if(text, [](char c) { return c == ' ' || c == '\n'; });
         return text;

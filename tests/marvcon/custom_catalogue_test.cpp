@@ -39,20 +39,22 @@ void check_copied(Class& object, PX_Smart_Pointer<Held> (Class::*get)() const,
     expect_clone_reports_no_memory(object, class_name + L"::clone");
     const auto in_clone = (PX_Smart_Pointer<Class>(object.clone()).get()->*get)();
     EXPECT_TRUE(in_clone && in_clone != held && held != callers);
+    (object.*set)(nullptr);
+    EXPECT_FALSE((object.*get)() || (PX_Smart_Pointer<Class>(object.clone()).get()->*get)());
     if constexpr (requires { held->size(); }) {
         EXPECT_EQ(in_clone->size(), callers->size());
         EXPECT_FALSE(*held->begin() == *callers->begin());
     } else {
         EXPECT_EQ(show(in_clone), show(Data(callers)));
+        if (callers->type() != PX_Data_Type::Data_Long)
+            return;  // once a setter will do
         for (const int type : {-1, 0, 2, 3, 4, 5}) {
             const Foreign foreign(type);
             const auto thrown =
                 expect_thrown<MVNK_Error>([&] { (object.*set)(&foreign); }, 701, function, L"");
-            EXPECT_EQ(thrown.file, custom_file);
+            EXPECT_TRUE(thrown.file == custom_file && !(object.*get)());
         }
     }
-    (object.*set)(nullptr);
-    EXPECT_FALSE((object.*get)() || (PX_Smart_Pointer<Class>(object.clone()).get()->*get)());
 }
 #define CHECK_COPIED(object, Class, name, callers, detail)                                      \
     check_copied<PX_##Class>(object, &PX_##Class::get_##name, &PX_##Class::set_##name, callers, \

@@ -9,6 +9,14 @@ namespace {
 
 using namespace support;
 
+// A driver's bytes, which the standard class knows nothing of.
+struct Elsewhere : PX_Std_Raw_Custom_Data {
+    explicit Elsewhere(std::basic_string<unsigned char> from) : bytes(std::move(from)) {}
+    const unsigned char* data() const override { return bytes.data(); }
+    long size() const override { return static_cast<long>(bytes.size()); }
+    std::basic_string<unsigned char> bytes;
+};
+
 TEST(Custom_Data, ComparesWithItsLike) {
     const struct {
         Data left, right;
@@ -24,12 +32,14 @@ TEST(Custom_Data, ComparesWithItsLike) {
         {of(L"ab"), of(L"abc"), "", "over the left side only"},
         {of(L"abc"), of(L"ab"), ">", "behind the right side there are zeros"},
         {of(L"\U0001F600"), of(L"\U0001F601"), "<", "then the second of the pair"},
-        {of(L"\U0010FFFF"), of(L"\xDBFF\xDFFE"), ">", "the last pair, DBFF DFFF"},
+        {of(L"a\U0010FFFF"), of(L"a\xDBFF\xDFFF"), "=", "a pair is its character"},
         {raw({1, 2}), raw({1, 2, 3}), "=", "a beginning equals the whole"},
         {raw({1, 2, 3}), raw({1, 2}), ">", "and not the other way round"},
         {raw({1, 0}), raw({1}), "", "zeros behind the end make nothing equal"},
         {raw({1, 0x80}), raw({1, 1}), ">", "bytes have no sign"},
         {raw({1}), of(L"\x1"), "", "another class"},
+        {new Elsewhere({1, 2}), raw({1, 2, 3}), "=", "a driver's bytes, wherever they are"},
+        {new Elsewhere({2}), new Elsewhere({1, 2}), ">", "on both sides"},
     };
     for (const auto& row : cases) {
         std::string holds(*row.left == *row.right ? "=" : "");
@@ -39,30 +49,48 @@ TEST(Custom_Data, ComparesWithItsLike) {
     }
 }
 
-TEST(Custom_Data, IsAssignedFromItsLikeOnly) {
-    const std::pair<Data, Data> classes[] = {{new PX_Std_String_Custom_Data, of(L"text")},
-                                             {new PX_Std_Long_Custom_Data, of(-7L)},
-                                             {new PX_Std_Double_Custom_Data, of(1.5)},
-                                             {new PX_Std_Boolean_Custom_Data, of(true)},
-                                             {new PX_Std_Raw_Custom_Data, raw({1, 0, 2})}};
-    const wchar_t* const starts[] = {L"0 ", L"long 0", L"0.000000", L"false", L"none"};
-    for (int type = 0; type < 5; ++type) {
-        const auto& [value, source] = classes[type];
-        for (const auto& other : classes) {
-            if (&other != &classes[type])
-                *value = *other.second;
-        }
-        EXPECT_EQ(show(value), starts[type]);
-        EXPECT_EQ(&(*value = *source), value.get());
-        *value = *value;
-        EXPECT_EQ(show(value), show(source));
+// From its like only, by the root and by its contract.
+template <class Contract>
+void check_assigned(Contract* (PX_Plotter_Class_Factory::*make)() const, const wchar_t* start,
+                    const Data& source) {
+    const PX_Std_Plotter_Class_Factory factory;
+    Contract *const made = (factory.*make)(), *const second = (factory.*make)();
+    const Data value(made), copy(second);
+    for (const Data& other : {of(L"text"), of(-7L), of(1.5), of(true), raw({1, 0, 2})}) {
+        if (other->type() != source->type())
+            *value = *other;
     }
+    EXPECT_EQ(show(value), start);
+    EXPECT_EQ(&(*value = *source), made);
+    *value = *value;
+    EXPECT_EQ(&(*second = *made), second);
+    EXPECT_EQ(show(value) + show(copy), show(source) + show(source));
+}
+
+TEST(Custom_Data, IsAssignedFromItsLikeOnly) {
+    using Factory = PX_Plotter_Class_Factory;
+    check_assigned(&Factory::MK_Create_String_Custom_Data, L"0 ", of(L"text"));
+    check_assigned(&Factory::MK_Create_Long_Custom_Data, L"long 0", of(-7L));
+    check_assigned(&Factory::MK_Create_Double_Custom_Data, L"0.000000", of(1.5));
+    check_assigned(&Factory::MK_Create_Boolean_Custom_Data, L"false", of(true));
+    check_assigned(&Factory::MK_Create_Raw_Custom_Data, L"none", raw({1, 0, 2}));
     // By what the compiler knows of the sides.
     PX_Std_String_Custom_Data text(L"a"), other(L"b"), copy(&text);
-    EXPECT_TRUE(copy == text && text < other && !(*classes[1].first == text));
+    EXPECT_TRUE(copy == text && text < other && !(*of(1L) == text));
     text = other;
     other = L"c";
     EXPECT_EQ(std::wstring(text.data()) + other.data() + copy.data(), L"bca");
+    // A driver's class takes part, whichever assignment of the standard one it calls.
+    struct Driver : PX_Std_Long_Custom_Data {
+        const PX_Custom_Data& operator=(const PX_Custom_Data& value) override {
+            ++copied;
+            PX_Std_Long_Custom_Data::operator=(dynamic_cast<const PX_Std_Long_Custom_Data&>(value));
+            return PX_Std_Long_Custom_Data::operator=(dynamic_cast<const PX_Long_Custom_Data&>(value));
+        }
+        int copied = 0;
+    } driver;
+    static_cast<PX_Long_Custom_Data&>(driver) = PX_Std_Long_Custom_Data(5);
+    EXPECT_TRUE(driver.data() == 5 && driver.copied == 1);
 }
 
 TEST(Raw_Custom_Data, OwnsItsBytes) {

@@ -77,6 +77,8 @@ TEST_F(Custom_Validator, KeepsAGoodItemAndPutsABadOneToItsDefault) {
         {setting(L"x", seven, 0, 10), of(11L), bad, "above"},
         {setting(L"x", seven, 0, 10), of(0L), good, "the lower bound belongs to the range"},
         {setting(L"x", seven, 0.5, 10), of(0L), bad, "below, by a fraction"},
+        {setting(L"x", of(7.0), 0, 1.5), of(1.5), good, "a bound with a fraction"},
+        {setting(L"x", of(7.0), 0, 1.5), of(1.75), bad, "above it, by a fraction"},
         {setting(L"x", of(7.0), 0, 1.5), of(double{NAN}), good, "what is not a number lies in every range"},
         {setting(L"x", of(true), 0, 10), of(false), 702, "no number"},
         {unverifiable(setting(L"x", of(true), 0, 10)), of(false), good, "nothing is verified"},
@@ -91,6 +93,11 @@ TEST_F(Custom_Validator, KeepsAGoodItemAndPutsABadOneToItsDefault) {
         {not_counted, of(L"value"), 703, "a count of none"},
     };
     const wchar_t* const flags[] = {L" v-, ", L" vd, ", L" --, "};
+    m_cfg->get_custom_list()->append(item(L"x", of(1L)));
+    m_cfg->set_default(true);
+    add(setting(L"x", seven, 0, 10));
+    call(1);
+    EXPECT_EQ(items(), L"x long 1 vd, ") << "a good one that is at its default stays so";
     for (const auto& row : cases) {
         SCOPED_TRACE(row.proves);
         const Device device;
@@ -131,7 +138,32 @@ TEST_F(Custom_Validator, WalksTheItemsThatAreNotValidatedUntilOneFails) {
     EXPECT_NO_THROW(call(0));
 }
 
+TEST_F(Custom_Validator, WalksThroughADriversOverride) {
+    struct Driver : PX_Std_Custom_Validator {
+        Driver(PX_Plotter_Definition* plotter, PX_Custom_Configurations& items)
+            : PX_Std_Custom_Validator(plotter), items(items) {}
+        void validate_named_custom(Strategy::Enum strategy, const wchar_t* name) override {
+            calls += name + std::to_wstring(strategy) + L" ";
+            items.get_custom_list()->remove(items.get_custom(name).get());
+        }
+        PX_Custom_Configurations& items;
+        std::wstring calls;
+    } driver(m_device.get(), *m_cfg);
+    for (const wchar_t* const name : {L"a", L"b", L"c"})
+        add(item(name, of(1L)));
+    m_cfg->set_one_validated(true, L"b");
+    driver.validate_all_custom(Strategy::Use_Nearest);
+    driver.validate_all_custom(Strategy::Use_Default);
+    const auto nearest = std::to_wstring(Strategy::Use_Nearest);
+    EXPECT_EQ(driver.calls, L"a" + nearest + L" c" + nearest + L" ");
+    EXPECT_EQ(items(), L"b long 1 v-, ");
+}
+
 TEST_F(Custom_Validator, ReportsWhatIsMissing) {
+    m_cfg->set_custom_list(nullptr);
+    expect_thrown<MVNK_Error>([&] { call(1); }, 706, function(1), L"");
+    const PX_Named_Object_List<PX_Custom_Config_Item> none;
+    m_cfg->set_custom_list(&none);
     expect_error(1, 706);
     add(item(L"x", of(5L)));
     add(setting(L"y", of(7L)));
@@ -164,8 +196,13 @@ TEST_F(Custom_Validator, SetsOneItemOrMakesAllAnew) {
     add(item(L"b", of(1L)));
     call(2);
     EXPECT_EQ(items(), L"b long 1 --, ") << "no settings, no new items";
-    add(item(L"x", of(5L)));
     add(setting(L"x", of(99L), 0, 10));
+    m_cfg->set_custom_list(nullptr);
+    call(2);
+    EXPECT_EQ(items(), L"x long 99 vd, ") << "out of nothing";
+    m_cfg->get_custom_list()->clear();
+    for (const wchar_t* const name : {L"b", L"x"})
+        add(item(name, of(1L)));
     call(3);
     EXPECT_EQ(items(), L"b long 1 --, x long 99 vd, ");
     add(setting(L"w", of(1L)));

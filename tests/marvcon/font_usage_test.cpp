@@ -33,17 +33,18 @@ TEST(Font_Usage, CountsEachCodePointOnceUpToTheLimits) {
                  }).empty());
 }
 
-// What a caller must not do stops a debug build, and does no harm in another.
 TEST(Font_Usage, StaysInsideItsMemory) {
     PX_Font_Usage_Data usage;
-    EXPECT_DEBUG_DEATH(usage.set_bit(65), "");
     EXPECT_DEBUG_DEATH(usage.set_logfont(nullptr), "");
-    usage.set_single_byte(true);
-    for (const int outside : {-1, -8, 8704}) {
-        EXPECT_DEBUG_DEATH(usage.set_bit(outside), "") << outside;
-        EXPECT_DEBUG_DEATH(EXPECT_FALSE(usage.codepoint_used(outside)), "") << outside;
+    for (const int last : {-1, 8703, 65535}) {
+        if (last > 0)
+            usage.set_single_byte(last == 8703);
+        for (const int outside : {-65536, -1, last + 1, 65536}) {
+            usage.set_bit(outside);
+            EXPECT_FALSE(usage.codepoint_used(outside)) << outside;
+        }
+        EXPECT_EQ(usage.how_many(), 0);
     }
-    EXPECT_TRUE(usage.how_many() == 0 && !usage.get_logfont());
 }
 
 TEST(Font_Usage, ClonesAreDeepAndReportNoMemory) {
@@ -59,8 +60,10 @@ TEST(Font_Usage, ClonesAreDeepAndReportNoMemory) {
     usage.set_bit(65535);
     usage.set_action(Capture_Action{7});
     usage.set_logfont(&logfont);
+    const LOGFONTW* const held = usage.get_logfont();
     logfont.lfFaceName[31] = 0;
     usage.set_logfont(&logfont);
+    EXPECT_EQ(usage.get_logfont(), held) << "renewed in its place";
     const std::unique_ptr<PX_Font_Usage_Data> clone(usage.clone());
     const auto texts = std::wstring(clone->get_canonical_name()) + L" " + clone->get_localized_name() + L" " +
                        clone->get_canonical_family_name() + L" " + clone->get_temp_font_filename().c_str();
@@ -74,6 +77,8 @@ TEST(Font_Usage, ClonesAreDeepAndReportNoMemory) {
     const std::unique_ptr<PX_Font_Usage_Data> of_empty(PX_Font_Usage_Data().clone());
     of_empty->set_bit(8703);
     EXPECT_TRUE(of_empty->how_many() == 1 && !of_empty->get_logfont()) << "a clone has a set in any case";
+    const std::unique_ptr<PX_Font_Usage_Data> of_single(of_empty->clone());
+    EXPECT_TRUE(of_single->codepoint_used(8703) && of_single->how_many() == 1);
 }
 
 }  // namespace

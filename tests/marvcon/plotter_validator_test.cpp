@@ -77,7 +77,9 @@ public:
 class Recording_Custom : public PX_Std_Custom_Validator {
 public:
     using PX_Std_Custom_Validator::PX_Std_Custom_Validator;
-    void validate_all_custom(Strategy::Enum) override { tell("custom"); }
+    void validate_all_custom(Strategy::Enum strategy) override {
+        tell(strategy == Strategy::Use_Nearest ? "ncustom" : "vcustom");
+    }
     TELLS(set_all_custom_to_defaults, "custom")
 };
 #undef STRING
@@ -169,18 +171,18 @@ TEST(Check_Validate_Datum, IsDecidedByAbilityPolicyAndSettable) {
 
 TEST_F(Plotter_Validator, WalksInOrderThroughTheDriversOverrides) {
     m_device.init_term_caps()->set_abilities(L"515");
-    EXPECT_EQ(run(Policy::Keep_Conditional), "v0 d1 v2 custom ");
-    EXPECT_EQ(run(Policy::Keep_Conditional), "d1 custom ") << "validated data are left alone, not defaults";
+    EXPECT_EQ(run(Policy::Keep_Conditional), "v0 d1 v2 vcustom ");
+    EXPECT_EQ(run(Policy::Keep_Conditional), "d1 vcustom ") << "validated data are left alone, not defaults";
     m_device.init_term_cfg()->set_validated(false);
     m_device.init_term_caps()->set_abilities(L"323");
-    EXPECT_EQ(run(Policy::Validate_Conditional, true, Strategy::Use_Nearest), "n0 n1 n2 custom ");
-    EXPECT_EQ(run(Policy::Keep_All), "custom ") << "custom data are validated under every policy";
+    EXPECT_EQ(run(Policy::Validate_Conditional, true, Strategy::Use_Nearest), "n0 n1 n2 ncustom ");
+    EXPECT_EQ(run(Policy::Keep_All), "vcustom ") << "custom data are validated under every policy";
 }
 
 TEST_F(Plotter_Validator, ASettableDatumIsResetWithoutAChangeBit) {
     m_device.init_term_caps()->set_abilities(L"200");
     m_device.init_term_cfg()->set_default(false);
-    EXPECT_EQ(run(Policy::Keep_Conditional, false), "d0 d1 d2 custom ");
+    EXPECT_EQ(run(Policy::Keep_Conditional, false), "d0 d1 d2 vcustom ");
     EXPECT_TRUE(m_device.init_term_cfg()->get_one_validated(Flag::Preinit_String));
     EXPECT_TRUE(m_device.init_term_cfg()->get_one_default(Flag::Preinit_String));
     EXPECT_FALSE(m_changed);
@@ -203,7 +205,7 @@ TEST_F(Plotter_Validator, ReportsWhatIsMissingWhereItIsNeeded) {
     m_device.rcm_caps()->set_abilities(PX_Ability_Value::Ability_Conditional);
     m_device.io_caps()->set_abilities(PX_Ability_Value::Ability_Conditional);
     m_device->set_plotter_configuration(nullptr);
-    EXPECT_EQ(run(Policy::Keep_All), "custom ") << "nothing is asked of the configuration";
+    EXPECT_EQ(run(Policy::Keep_All), "vcustom ") << "nothing is asked of the configuration";
     expect_thrown<PX_Exception>([&] { run(Policy::Validate_Conditional); }, 1103, function,
                                 L"plotter_caps or plotter_cfg");
     EXPECT_EQ(calls, "");

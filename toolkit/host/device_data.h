@@ -17,7 +17,8 @@ public:
 };
 
 // The data of one device, with its options twice: as the user has set them, and as they hold for the picture
-// that is being drawn, which the device may tune.
+// that is being drawn, which the device may tune. The host carries the first over to the second before a
+// picture; nothing here does.
 class PX_EXPORT PX_Device_Data : public PX_Renderer_Data {
 public:
     ~PX_Device_Data() override;
@@ -25,7 +26,9 @@ public:
     virtual void optimize_current_options() {}
 
     PX_Option_Table& get_options() { return m_options; }
+    const PX_Option_Table& get_options() const { return m_options; }
     PX_Option_Table& get_current_options() { return m_current_options; }
+    const PX_Option_Table& get_current_options() const { return m_current_options; }
 
 private:
     PX_Option_Table m_options;

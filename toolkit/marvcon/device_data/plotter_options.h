@@ -11,8 +11,9 @@ using PX_Progress_Callback = bool(PX_Progress_Info*);
 // value is std::bad_alloc, and the old one stays.
 class PX_EXPORT PX_Plotter_Options {
 public:
-    // Registers the options with the values of a new device. An option that the table has keeps its value. No
-    // memory is std::bad_alloc.
+    // Registers the options with the values of a new device. An option that the table has keeps its value;
+    // one of another type reads as 0, false or null until it is set. No memory is std::bad_alloc, and the
+    // options registered before stay.
     explicit PX_Plotter_Options(PX_Option_Table& table);
 
     // "Progress Callback"; null at the start.

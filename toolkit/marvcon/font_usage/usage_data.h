@@ -1,6 +1,5 @@
 #pragma once
 
-#include <cassert>
 #include <cstddef>
 #include <memory>
 
@@ -22,14 +21,12 @@ public:
     void set_single_byte(bool single_byte);
     bool get_single_byte() const { return m_single_byte; }
     void clear_all();
-    // Asking for a code point that the set has no room for is a mistake of the caller, as is setting one
-    // before there is a set. A debug build stops there; otherwise it reads as not used and is not set.
+    // A code point that the set has no room for reads as not used and is not set; without a set that is so of
+    // every one.
     bool codepoint_used(int codepoint) const {
-        assert(!m_bits || has_room_for(codepoint));
         return has_room_for(codepoint) && (m_bits[place(codepoint)] & bit(codepoint)) != 0;
     }
     void set_bit(int codepoint) {
-        assert(has_room_for(codepoint));
         if (has_room_for(codepoint))
             m_bits[place(codepoint)] = static_cast<unsigned char>(m_bits[place(codepoint)] | bit(codepoint));
     }

@@ -3,7 +3,7 @@
 #include "toolkit/core/caps_type.h"
 #include "toolkit/core/object_list.h"
 #include "toolkit/core/smart_pointer.h"
-#include "toolkit/marvcon/std_custom_cfg/values_interface.h"
+#include "toolkit/marvcon/std_custom_cfg/custom_data_interface.h"
 
 // The settings that a driver adds of its own.
 //

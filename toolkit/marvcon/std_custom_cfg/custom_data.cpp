@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstring>
 #include <new>
+#include <span>
 #include <utility>
 
 #include "toolkit/core/fields.h"
@@ -12,10 +13,21 @@ namespace {
 
 constexpr const wchar_t* file_tag = px_std_custom_cfg_source.file_tag;
 
-// The bytes that are there.
-std::size_t byte_count(const PX_Raw_Custom_Data& value) {
+// The bytes that are there, wherever a driver's class keeps them.
+std::span<const unsigned char> bytes_of(const PX_Raw_Custom_Data& value) {
     const long size = value.size();
-    return value.data() && size > 0 ? static_cast<std::size_t>(size) : 0;
+    const unsigned char* const bytes = value.data();
+    if (!bytes || size <= 0)
+        return {};
+    return {bytes, static_cast<std::size_t>(size)};
+}
+
+int difference(std::span<const unsigned char> left, std::span<const unsigned char> right) {
+    for (std::size_t i = 0; i < left.size(); ++i) {
+        if (const int difference = left[i] - (i < right.size() ? right[i] : 0))
+            return difference;
+    }
+    return 0;
 }
 
 // False for a value of another class.
@@ -53,9 +65,18 @@ const PX_Custom_Data& PX_Custom_Data::operator=(const PX_Custom_Data& /*other*/)
     return *this;
 }
 
+bool PX_Std_String_Custom_Data::is_equal(const PX_String_Custom_Data& other) const {
+    PX_UTF16_Reader left(data()), right(other.data());
+    while (!left.is_at_end() || !right.is_at_end()) {
+        if (left.next() != right.next())
+            return false;
+    }
+    return true;
+}
+
 // Drivers know this order. It is no slip that the length of the right side is not asked for.
 int PX_Std_String_Custom_Data::difference(const PX_String_Custom_Data& other) const {
-    PX_UTF16_Reader left(m_data), right(other.data());
+    PX_UTF16_Reader left(data()), right(other.data());
     while (!left.is_at_end()) {
         const char16_t here = left.next(), there = right.next();
         if (const int low = (here & 0xFF) - (there & 0xFF))
@@ -78,17 +99,13 @@ void PX_Std_Raw_Custom_Data::store(long size, const unsigned char* bytes) {
 }
 
 bool PX_Std_Raw_Custom_Data::is_equal(const PX_Raw_Custom_Data& other) const {
-    const auto count = byte_count(*this);
-    return count == static_cast<std::size_t>(m_size) && byte_count(other) >= count && difference(other) == 0;
+    const auto own = bytes_of(*this), others = bytes_of(other);
+    const bool has_lost_its_bytes = own.empty() && size() > 0;
+    return !has_lost_its_bytes && own.size() <= others.size() && ::difference(own, others) == 0;
 }
 
 int PX_Std_Raw_Custom_Data::difference(const PX_Raw_Custom_Data& other) const {
-    const auto own_count = byte_count(*this), count = byte_count(other);
-    for (std::size_t i = 0; i < own_count; ++i) {
-        if (const int difference = m_data_ptr[i] - (i < count ? other.data()[i] : 0))
-            return difference;
-    }
-    return 0;
+    return ::difference(bytes_of(*this), bytes_of(other));
 }
 
 void px_store_custom_data(PX_Smart_Pointer<PX_Custom_Data>& field, const PX_Custom_Data* value,

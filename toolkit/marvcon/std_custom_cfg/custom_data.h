@@ -6,7 +6,7 @@
 #include "toolkit/core/smart_pointer.h"
 #include "toolkit/host/object.h"
 #include "toolkit/host/string.h"
-#include "toolkit/marvcon/std_custom_cfg/values_interface.h"
+#include "toolkit/marvcon/std_custom_cfg/custom_data_interface.h"
 
 // What the five classes do alike: nothing is read of an object of another class. `Self` is the class itself,
 // which tells how it compares with its like, is_equal, is_below and is_above, and how it takes the other's
@@ -20,10 +20,15 @@ public:
     // The constructor from a pointer is the one that copies.
     PX_Custom_Value(const PX_Custom_Value&) = delete;
 
+    // All three are this class's own: a driver's override may call any of them by name, and must not be
+    // called back.
     using Contract::operator=;
     PX_Custom_Value& operator=(const PX_Custom_Value& other) {
-        *this = static_cast<const PX_Custom_Data&>(other);
+        *this = static_cast<const Contract&>(other);
         return *this;
+    }
+    const PX_Custom_Data& operator=(const Contract& other) {
+        return PX_Custom_Value::operator=(static_cast<const PX_Custom_Data&>(other));
     }
     const PX_Custom_Data& operator=(const PX_Custom_Data& other) override {
         if (const auto* const like = as_like(other))
@@ -74,13 +79,13 @@ public:
     }
     Value data() const override { return m_data; }
 
-    bool is_equal(const Contract& other) const { return m_data == stored(other); }
-    bool is_below(const Contract& other) const { return m_data < stored(other); }
-    bool is_above(const Contract& other) const { return m_data > stored(other); }
+    bool is_equal(const Contract& other) const { return stored(*this) == stored(other); }
+    bool is_below(const Contract& other) const { return stored(*this) < stored(other); }
+    bool is_above(const Contract& other) const { return stored(*this) > stored(other); }
     void assign(const Contract& other) { m_data = stored(other); }
 
 private:
-    static Stored stored(const Contract& other) { return static_cast<Stored>(other.data()); }
+    static Stored stored(const Contract& value) { return static_cast<Stored>(value.data()); }
 
     Stored m_data{};
 };
@@ -126,7 +131,7 @@ public:
     const wchar_t* data() const override { return m_data; }
     int length() const override { return static_cast<int>(m_data.length()); }
 
-    bool is_equal(const PX_String_Custom_Data& other) const { return m_data == other.data(); }
+    bool is_equal(const PX_String_Custom_Data& other) const;
     bool is_below(const PX_String_Custom_Data& other) const { return difference(other) < 0; }
     bool is_above(const PX_String_Custom_Data& other) const { return difference(other) > 0; }
     void assign(const PX_String_Custom_Data& other) { m_data = other.data(); }

@@ -78,8 +78,9 @@ public:
     // A bad item takes the default, is marked as default, and its name is recorded with the plotter
     // validator, whose absence is MVNK_Error 1103, "plotter validator", before anything is written. A good
     // one keeps its default flag; both are marked as validated. An item that is validated already is left
-    // alone, whatever the device has. MVNK_Error 702 for a range of what is no number, 703 for a list without
-    // values, 704 for no such setting, 705 for no name or no such item, 706 for no items at all.
+    // alone, whatever the device has. No memory for the record is std::bad_alloc: the default stands then,
+    // not validated. MVNK_Error 702 for a range of what is no number, 703 for a list without values, 704 for
+    // no such setting, 705 for no name or no such item, 706 for no items at all.
     virtual void validate_named_custom(PX_Validation_Strategy::Enum strategy, const wchar_t* name) = 0;
     // Makes the items anew, one for each setting, in the order of the settings, validated and default; other
     // items go. Without any setting the items stay as they are. No list of settings is MVNK_Error 1103,

@@ -22,13 +22,6 @@ class Custom_Datum : public PX_Datum<PX_Custom_Domain> {
 public:
     using PX_Datum::PX_Datum;
 
-    PX_Smart_Pointer<PX_Plotter_Validator> required_validator() const {
-        auto validator = m_plotter->get_plotter_validator();
-        if (!validator)
-            fail(PX_Code::Null_Argument, L"plotter validator");
-        return validator;
-    }
-
     // Before anything is written: an item without a value would be good for nothing.
     PX_Smart_Pointer<PX_Custom_Data> required_default(const PX_Custom_Capability& capability) const {
         auto value = capability.get_default_data_value();

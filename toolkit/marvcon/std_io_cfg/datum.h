@@ -14,12 +14,6 @@ public:
 
     using PX_Datum::PX_Datum;
 
-    // For the operations that raise bits.
-    void require_validator() const {
-        px_require_argument(m_plotter->get_plotter_validator(), m_function, L"plotter validator",
-                            PX_IO_Domain::file_tag);
-    }
-
     bool has(Ability::Enum ability) const {
         return capabilities->get_one_ability(ability) != PX_Ability_Value::Ability_None;
     }

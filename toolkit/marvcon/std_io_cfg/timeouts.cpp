@@ -54,7 +54,7 @@ const PX_Std_Plotter_IO_Validator::Timeout PX_Std_Plotter_IO_Validator::output_t
 void PX_Std_Plotter_IO_Validator::validate(const Timeout& timeout, PX_Validation_Strategy::Enum strategy,
                                            const wchar_t* function) {
     const PX_IO_Datum datum(m_plotter, function);
-    datum.require_validator();
+    datum.required_validator();
     auto& configuration = *datum.configuration;
     if (!datum.has(Ability::IO_Methods)) {
         // The bit too where the time-out was 0 before.

@@ -144,7 +144,7 @@ void PX_Std_Plotter_IO_Validator::validate_portname_and_type(Strategy::Enum stra
     // Printers are opened.
     const PX_Floating_Point_Guard guard;
     const PX_IO_Datum datum(m_plotter, function);
-    datum.require_validator();
+    datum.required_validator();
     const bool to_file = datum.configuration->get_plot_to_file();
     if (!to_file && !Port_Rule(datum, *m_plotter, function).holds()) {
         if (const auto handler = m_plotter->get_error_handler())
@@ -165,7 +165,7 @@ void PX_Std_Plotter_IO_Validator::validate_portname_and_type(Strategy::Enum stra
 
 void PX_Std_Plotter_IO_Validator::validate_protocol(Strategy::Enum strategy) {
     const PX_IO_Datum datum(m_plotter, L"PX_Std_Plotter_IO_Validator::validate_protocol");
-    datum.require_validator();
+    datum.required_validator();
     if (const auto line = line_of(datum, Method_Ability::Method_Default_Protocol)) {
         const wchar_t* const name = datum.configuration->get_protocol();
         const bool port_has_it = *name && px_offers_protocol(line->port, name);
@@ -181,7 +181,7 @@ void PX_Std_Plotter_IO_Validator::validate_protocol(Strategy::Enum strategy) {
 
 void PX_Std_Plotter_IO_Validator::validate_baud_rate(Strategy::Enum strategy) {
     const PX_IO_Datum datum(m_plotter, L"PX_Std_Plotter_IO_Validator::validate_baud_rate");
-    datum.require_validator();
+    datum.required_validator();
     if (const auto line = line_of(datum, Method_Ability::Method_Default_Baud_Rate)) {
         const long rate = datum.configuration->get_baud_rate();
         const bool method_has_it =
@@ -196,7 +196,7 @@ void PX_Std_Plotter_IO_Validator::validate_baud_rate(Strategy::Enum strategy) {
 
 void PX_Std_Plotter_IO_Validator::validate_handshake(Strategy::Enum /*strategy*/) {
     const PX_IO_Datum datum(m_plotter, L"PX_Std_Plotter_IO_Validator::validate_handshake");
-    datum.require_validator();
+    datum.required_validator();
     if (const auto line = line_of(datum, Method_Ability::Method_Default_Handshake)) {
         const long handshake = datum.configuration->get_handshake();
         const bool method_has_it =
@@ -217,7 +217,7 @@ void PX_Std_Plotter_IO_Validator::validate_output_timeout(Strategy::Enum strateg
 
 void PX_Std_Plotter_IO_Validator::validate_pathname(Strategy::Enum /*strategy*/) {
     const PX_IO_Datum datum(m_plotter, L"PX_Std_Plotter_IO_Validator::validate_pathname");
-    datum.require_validator();
+    datum.required_validator();
     // Whatever the path is.
     if (datum.configuration->get_plot_to_file())
         datum.repair(Change::Pathname, [&] { set_pathname_to_default(); });

@@ -1,7 +1,6 @@
 #include "toolkit/marvcon/std_plotter_io/channel.h"
 
 #include <algorithm>
-#include <atomic>
 #include <cassert>
 #include <limits>
 #include <string>
@@ -222,9 +221,11 @@ bool PX_Std_Plotter_IO::flush_buffer() {
 }
 
 void PX_Std_Plotter_IO::empty_buffer() {
-    // The fence makes a loop that never ends one that may.
-    while (!flush_buffer())
-        std::atomic_thread_fence(std::memory_order_acquire);
+    // It may go round for ever, which the language allows only to a loop with an effect that can be seen. To
+    // read a volatile object is one; without it the compiler might take the loop for one that ends.
+    volatile bool is_empty = false;
+    while (!is_empty)
+        is_empty = flush_buffer();
 }
 
 void PX_Std_Plotter_IO::empty_buffer_asking() {

@@ -6,12 +6,21 @@
 #include "toolkit/core/flags.h"
 #include "toolkit/core/frame.h"
 #include "toolkit/marvcon/std_plval/domain_objects.h"
+#include "toolkit/marvcon/std_plval/interface.h"
 
-// Raises bits in a domain's change word. A missing plotter validator is MVNK_Error 1103, "plotter validator".
+// Never null: a missing plotter validator is MVNK_Error 1103, "plotter validator".
+inline PX_Smart_Pointer<PX_Plotter_Validator> px_plotter_validator(const PX_Plotter_Definition& plotter,
+                                                                   const wchar_t* function,
+                                                                   const wchar_t* file) {
+    auto validator = plotter.get_plotter_validator();
+    px_require_argument(validator, function, L"plotter validator", file);
+    return validator;
+}
+
+// Raises bits in a domain's change word; the plotter validator has to be there.
 template <class Domain>
 void px_raise(const PX_Plotter_Definition& plotter, long bits, const wchar_t* function) {
-    const auto validator = plotter.get_plotter_validator();
-    px_require_argument(validator, function, L"plotter validator", Domain::file_tag);
+    const auto validator = px_plotter_validator(plotter, function, Domain::file_tag);
     ((*validator).*Domain::set_changes)(((*validator).*Domain::get_changes)() | bits);
 }
 
@@ -23,7 +32,8 @@ void px_settle_default(Configuration& configuration, Flag flag) {
 }
 
 // One run of a validator's operation over its datum: the objects it starts from, the frame it lets failures
-// pass, and what it marks. Beside what PX_Domain_Objects asks of it, `Domain` tells the domain's change word:
+// pass, and what it marks. Beside what PX_Domain_Objects asks of it, `Domain` tells the domain's change word,
+// for raise and repair only:
 //
 //     static constexpr auto get_changes, set_changes;  // members of PX_Plotter_Validator
 template <class Domain>
@@ -52,6 +62,11 @@ public:
     template <class Call>
     decltype(auto) call(Call&& other) const {
         return px_frame(m_function, std::forward<Call>(other));
+    }
+
+    // For an operation that tells of a change, before it writes anything.
+    PX_Smart_Pointer<PX_Plotter_Validator> required_validator() const {
+        return px_plotter_validator(*m_plotter, m_function, Domain::file_tag);
     }
 
     // Repairs the datum, then raises its bits.

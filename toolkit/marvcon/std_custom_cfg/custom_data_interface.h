@@ -22,19 +22,23 @@ struct PX_Data_Type {
 // class: beside one of another class every comparison is 0, and an assignment leaves the value as it is.
 class PX_EXPORT PX_Custom_Data {
 public:
+    PX_Custom_Data() = default;
+    PX_Custom_Data(const PX_Custom_Data&) = default;
     virtual ~PX_Custom_Data();
 
     // 1 or 0 each.
     virtual int operator==(const PX_Custom_Data& other) const = 0;
     virtual int operator<(const PX_Custom_Data& other) const = 0;
     virtual int operator>(const PX_Custom_Data& other) const = 0;
-    // Copies the payload. This one does nothing: every class brings its own.
+    // Copies the payload. This one does nothing: every class brings its own. Between two values of one of the
+    // contracts below it is the one that runs too; a class that stands on a contract directly must not copy
+    // itself by the assignment that the compiler makes, which would come back here.
     virtual const PX_Custom_Data& operator=(const PX_Custom_Data& other);
     virtual PX_Data_Type::Enum type() const = 0;
 };
 
 // Between values whose classes the compiler knows it would try the sides the other way round too, and not
-// decide.
+// decide. The result is an int, for which reason `!=` does not compile: write !(left == right).
 template <std::derived_from<PX_Custom_Data> Left, std::derived_from<PX_Custom_Data> Right>
 int operator==(const Left& left, const Right& right) {
     return static_cast<const PX_Custom_Data&>(left).operator==(right);
@@ -43,7 +47,13 @@ int operator==(const Left& left, const Right& right) {
 // 32 bits, signed; a payload beyond that keeps its low bits.
 class PX_EXPORT PX_Long_Custom_Data : public PX_Custom_Data {
 public:
+    PX_Long_Custom_Data() = default;
+    PX_Long_Custom_Data(const PX_Long_Custom_Data&) = default;
+
     using PX_Custom_Data::operator=;
+    const PX_Custom_Data& operator=(const PX_Long_Custom_Data& other) {
+        return *this = static_cast<const PX_Custom_Data&>(other);
+    }
     virtual const PX_Custom_Data& operator=(long value) = 0;
     virtual long data() const = 0;
 };
@@ -51,7 +61,13 @@ public:
 // No comparison holds for what is not a number.
 class PX_EXPORT PX_Double_Custom_Data : public PX_Custom_Data {
 public:
+    PX_Double_Custom_Data() = default;
+    PX_Double_Custom_Data(const PX_Double_Custom_Data&) = default;
+
     using PX_Custom_Data::operator=;
+    const PX_Custom_Data& operator=(const PX_Double_Custom_Data& other) {
+        return *this = static_cast<const PX_Custom_Data&>(other);
+    }
     virtual const PX_Custom_Data& operator=(double value) = 0;
     virtual double data() const = 0;
 };
@@ -59,18 +75,30 @@ public:
 // False lies below true.
 class PX_EXPORT PX_Boolean_Custom_Data : public PX_Custom_Data {
 public:
+    PX_Boolean_Custom_Data() = default;
+    PX_Boolean_Custom_Data(const PX_Boolean_Custom_Data&) = default;
+
     using PX_Custom_Data::operator=;
+    const PX_Custom_Data& operator=(const PX_Boolean_Custom_Data& other) {
+        return *this = static_cast<const PX_Custom_Data&>(other);
+    }
     virtual const PX_Custom_Data& operator=(bool value) = 0;
     virtual bool data() const = 0;
 };
 
-// Equal are texts of the same characters. Below and above are told byte by byte, the low byte of a 16-bit
-// character first, so that the order is not that of the characters; and over the length of the left side
-// alone, so that a text is neither below nor above one that it begins. What lies behind the end of the right
-// side counts as 0.
+// Equal are texts of the same 16-bit characters. Below and above are told byte by byte, the low byte of a
+// 16-bit character first, so that the order is not that of the characters; and over the length of the left
+// side alone, so that a text is neither below nor above one that it begins. What lies behind the end of the
+// right side counts as 0.
 class PX_EXPORT PX_String_Custom_Data : public PX_Custom_Data {
 public:
+    PX_String_Custom_Data() = default;
+    PX_String_Custom_Data(const PX_String_Custom_Data&) = default;
+
     using PX_Custom_Data::operator=;
+    const PX_Custom_Data& operator=(const PX_String_Custom_Data& other) {
+        return *this = static_cast<const PX_Custom_Data&>(other);
+    }
     // Copies the text; null is the empty one. No memory is std::bad_alloc, and the old text stays.
     virtual const PX_Custom_Data& operator=(const wchar_t* text) = 0;
     // Never null; valid until the value changes.
@@ -83,7 +111,13 @@ public:
 // with it, and no shorter one. For below and above, what lies behind the end of the right side counts as 0.
 class PX_EXPORT PX_Raw_Custom_Data : public PX_Custom_Data {
 public:
+    PX_Raw_Custom_Data() = default;
+    PX_Raw_Custom_Data(const PX_Raw_Custom_Data&) = default;
+
     using PX_Custom_Data::operator=;
+    const PX_Custom_Data& operator=(const PX_Raw_Custom_Data& other) {
+        return *this = static_cast<const PX_Custom_Data&>(other);
+    }
     // Copies the bytes, which may be its own. A size below 1 or a null pointer makes it empty: size 0, no
     // bytes. No memory is MVNK_Memory_Exception 1101, "m_data_ptr": the size is the new one then, and there
     // are no bytes. Assignment comes here.

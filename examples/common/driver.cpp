@@ -74,6 +74,7 @@ Plot_Result Driver::plot(const PX_Plotter_Definition& device, PX_Smart_Pointer<P
         output.tell(0);
         const auto strings = device.get_plotter_configuration()->get_init_term_configuration();
         write_string(output, strings->get_preinit_string());
+        set_up_job(device, output);
         write_string(output, strings->get_postinit_string());
         draw(device, picture, options, output);
         write_string(output, strings->get_termination_string());

@@ -60,6 +60,9 @@ public:
                      const Plot_Progress& progress) const;
 
 protected:
+    // Commands of job control for this job, between the string that begins it and the one that enters the
+    // language of the device.
+    virtual void set_up_job(const PX_Plotter_Definition&, Plot_Output&) const {}
     // The drawing in the language of the device. Its circles are those that the options leave to the device.
     virtual void draw(const PX_Plotter_Definition& device, const Drawing& drawing,
                       const PX_Plotter_Options& options, Plot_Output& output) const = 0;

@@ -18,6 +18,7 @@
 #include "examples/drivers/ppd/driver.h"
 #include "examples/plot_host/configuration.h"
 #include "examples/plot_host/destination.h"
+#include "tests/support/described_device.h"
 #include "tests/support/pseudo_terminal.h"
 #include "tests/support/test_handler.h"
 #include "toolkit/platform/posix/posix_platform.h"
@@ -185,6 +186,47 @@ TEST_F(Plots, PenPlotterRendersAsItIsTold) {
         round.find("IN;LA1,1;\nPU;SP1;PW0.35,1;VS36,1;FS44,1;\nPU1411,1411;CI508;\nPU2427,2427;CI508;\n"),
         std::string::npos)
         << round;
+}
+
+// A command of job control stands where the device does not take it for a page, and what sets up the page
+// device before what it would undo.
+TEST_F(Plots, SettingsAreSelectedWhereTheyBelong) {
+    const auto option = [](const std::string& keyword, const std::string& order) {
+        return "*OpenUI *" + keyword + ": PickOne\n*OrderDependency: " + order + " *" + keyword + "\n*" +
+               keyword + " A: \"/" + keyword + " 1 def<0A>\"\n*" + keyword + " B: \"\"\n*CloseUI: *" +
+               keyword + "\n";
+    };
+    const auto described = m_folder / "settings.ppd";
+    support::write_description(
+        described,
+        "*JCLBegin: \"begin<0A>\"\n*JCLToPSInterpreter: \"enter<0A>\"\n*OpenUI *PageSize: "
+        "PickOne\n*PageSize X: \"\"\n*CloseUI: *PageSize\n*PaperDimension X: \"900 900\"\n" +
+            option("Leaf", "5 PageSetup") + option("Late", "30 DocumentSetup") +
+            option("Early", "20.5 AnySetup") + option("Words", "50 Prolog") + option("Save", "5 JCLSetup"));
+    const auto plot = plotted(m_described, described, {100, 100, {}}, [](PX_Plotter_Configuration& choice) {
+        const auto items = choice.get_custom_configuration()->get_custom_list();
+        const PX_Smart_Pointer value(PX_Std_Plotter_Class_Factory().MK_Create_String_Custom_Data());
+        *value = L"B";
+        items->find(L"Late")->set_config_value(value.get());
+        *value = L"no choice of the device";
+        items->find(L"Leaf")->set_config_value(value.get());
+        *value = L"X";
+        const PX_Smart_Pointer<PX_Custom_Config_Item> foreign(items->find(L"Late")->clone());
+        foreign->set_canonical_name(L"PageSize");
+        foreign->set_config_value(value.get());
+        items->append(foreign);
+    });
+    const auto feature = [](const std::string& words) {
+        return "mark {\n%%BeginFeature: *" + words + "%%EndFeature\n} stopped cleartomark\n";
+    };
+    EXPECT_EQ(plot.substr(0, plot.find("1 setlinecap")),
+              "begin\n/Save 1 def\nenter\n"
+              "%!PS-Adobe-3.0\n%%Pages: 1\n%%BoundingBox: 0 0 900 900\n%%EndComments\n%%BeginProlog\n" +
+                  feature("Words A\n/Words 1 def<0A>\n") +
+                  "%%EndProlog\n%%BeginSetup\n/setpagedevice where { pop << /PageSize [900 900] /NumCopies 1 "
+                  ">> setpagedevice } if\n" +
+                  feature("Early A\n/Early 1 def<0A>\n") + feature("Late B\n") +
+                  "%%EndSetup\n%%Page: 1 1\n%%BeginPageSetup\n");
 }
 
 // Turned, the left of the drawing lies at the bottom of the sheet.

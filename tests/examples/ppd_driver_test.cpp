@@ -1,39 +1,18 @@
 #include <gtest/gtest.h>
 
-#include <filesystem>
-#include <fstream>
 #include <map>
-#include <sstream>
 #include <string>
 #include <vector>
 
-#include "examples/drivers/ppd/definition.h"
 #include "examples/drivers/ppd/media.h"
-#include "examples/plot_host/host_error_handler.h"
+#include "tests/support/described_device.h"
 
 namespace {
 
-// Opens the description of a device with these lines.
-PX_Smart_Pointer<PX_Media_Capabilities> media_of(const std::string& lines) {
-    static std::ostringstream silenced;
-    const auto* const test = testing::UnitTest::GetInstance()->current_test_info();
-    const auto path =
-        std::filesystem::path(testing::TempDir()) / (std::string("ppd_driver_") + test->name() + ".ppd");
-    std::ofstream(path, std::ios::binary)
-        << "*PPD-Adobe: \"4.3\"\n*FormatVersion: \"4.3\"\n*ModelName: \"D\"\n" + lines;
-    const auto device = open_ppd_device(
-        path, PX_Smart_Pointer<PX_Error_Handler>(new plot_host::Host_Error_Handler(silenced)));
-    std::filesystem::remove(path);
-    return device->get_plotter_capabilities()->get_media_capabilities();
-}
+using support::option;
 
-// Each choice is "Name" or "Name/Shown"; the first is the default.
-std::string option(const std::string& keyword, const std::vector<std::string>& choices) {
-    std::string lines = "*OpenUI *" + keyword + ": PickOne\n*Default" + keyword + ": " +
-                        choices.front().substr(0, choices.front().find('/')) + "\n";
-    for (const std::string& choice : choices)
-        lines += "*" + keyword + " " + choice + ": \"\"\n";
-    return lines + "*CloseUI: *" + keyword + "\n";
+PX_Smart_Pointer<PX_Media_Capabilities> media_of(const std::string& lines) {
+    return support::described_device(lines)->get_plotter_capabilities()->get_media_capabilities();
 }
 
 // What the device's one destination offers of a kind, in small: names with place, type or when.

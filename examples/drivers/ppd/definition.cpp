@@ -9,6 +9,7 @@
 #include "examples/common/ways_out.h"
 #include "examples/drivers/ppd/media.h"
 #include "examples/drivers/ppd/meta.h"
+#include "examples/drivers/ppd/options.h"
 #include "examples/drivers/ppd/res_color_mem.h"
 
 namespace {
@@ -47,6 +48,8 @@ public:
         return new Ppd_ResColorMem_Validator(plotter, m_file);
     }
 
+    const Ppd_File& file() const { return *m_file; }
+
 private:
     std::shared_ptr<const Ppd_File> m_file;
 };
@@ -64,5 +67,10 @@ PX_Smart_Pointer<PX_Plotter_Definition> open_ppd_device(const std::filesystem::p
                              .media = ppd_media_capabilities(*file, factory),
                              .pens = nullptr,
                              .color = ppd_res_color_mem_capabilities(*file, factory),
-                             .ways_out = usual_ways_out(factory)});
+                             .ways_out = usual_ways_out(factory),
+                             .settings = ppd_custom_capabilities(*file, factory)});
+}
+
+const Ppd_File& ppd_file_of(const PX_Plotter_Definition& device) {
+    return dynamic_cast<const Ppd_Class_Factory&>(*device.get_class_factory()).file();
 }

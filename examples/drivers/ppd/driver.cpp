@@ -8,6 +8,7 @@
 
 #include "examples/common/placement.h"
 #include "examples/drivers/ppd/definition.h"
+#include "examples/drivers/ppd/options.h"
 
 namespace {
 
@@ -20,17 +21,28 @@ std::ostringstream plain_words() {
 
 std::string beginning(const PX_Plotter_Definition& device, const Placement& place) {
     const auto media = device.get_plotter_configuration()->get_media_configuration();
+    const auto settings = [&](Ppd_Section section) {
+        return ppd_settings_code(ppd_file_of(device), device, section);
+    };
     std::ostringstream words = plain_words();
     words << "%!PS-Adobe-3.0\n"
           << "%%Pages: 1\n"
           << "%%BoundingBox: 0 0 " << std::ceil(place.sheet_width()) << ' ' << std::ceil(place.sheet_height())
           << "\n%%EndComments\n"
+          << "%%BeginProlog\n"
+          << settings(Ppd_Section::Prolog) << "%%EndProlog\n"
+          << "%%BeginSetup\n"
           // An interpreter of the first language level has one sheet and does not ask.
           << "/setpagedevice where { pop << /PageSize [" << place.sheet_width() << ' ' << place.sheet_height()
           << "] /NumCopies " << std::max(1L, long{media->get_number_of_copies()})
           << " >> setpagedevice } if\n"
+          << settings(Ppd_Section::Setup) << "%%EndSetup\n"
+          << "%%Page: 1 1\n"
+          << "%%BeginPageSetup\n"
+          << settings(Ppd_Section::Page_Setup)
+          // Behind every setting: a new page device forgets them.
           << "1 setlinecap 1 setlinejoin\n"
-          << "%%Page: 1 1\n";
+          << "%%EndPageSetup\n";
     return words.str();
 }
 
@@ -87,6 +99,10 @@ void stroke(const Drawing_Line& line, const Placement& place, const PX_Plotter_O
 PX_Smart_Pointer<PX_Plotter_Definition> Ppd_Driver::open(const std::filesystem::path& device,
                                                          PX_Smart_Pointer<PX_Error_Handler> handler) const {
     return open_ppd_device(device, std::move(handler));
+}
+
+void Ppd_Driver::set_up_job(const PX_Plotter_Definition& device, Plot_Output& output) const {
+    output.write(ppd_settings_code(ppd_file_of(device), device, Ppd_Section::Job_Control));
 }
 
 void Ppd_Driver::draw(const PX_Plotter_Definition& device, const Drawing& drawing,

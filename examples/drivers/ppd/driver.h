@@ -9,7 +9,8 @@ public:
                                                  PX_Smart_Pointer<PX_Error_Handler> handler) const override;
 
 protected:
-    // One page of PostScript.
+    void set_up_job(const PX_Plotter_Definition& device, Plot_Output& output) const override;
+    // One page of PostScript, the chosen settings of the device before it.
     void draw(const PX_Plotter_Definition& device, const Drawing& drawing, const PX_Plotter_Options& options,
               Plot_Output& output) const override;
 };

@@ -262,6 +262,7 @@ struct Finish : Ppd_Choice {
 struct Finishing {
     std::vector<Finish> choices;
     std::wstring default_choice;
+    std::vector<std::string> keywords;
 };
 
 std::vector<Finish> choices_of(const Keyword& keyword, const Ppd_Option& option) {
@@ -285,15 +286,17 @@ bool finishes_at_all(const std::vector<Finish>& choices) {
     });
 }
 
-// One way to do nothing is enough.
-void join(std::vector<Finish>& list, std::vector<Finish> more) {
+// One way to do nothing is enough. False when nothing was added.
+bool join(std::vector<Finish>& list, std::vector<Finish> more) {
     if (std::ranges::any_of(list, &Finish::does_nothing))
         std::erase_if(more, [](const Finish& choice) { return choice.does_nothing; });
     const auto is_taken = [&](const Finish& choice) {
         return std::ranges::find(list, choice.name, &Finish::name) != list.end();
     };
-    if (std::ranges::none_of(more, is_taken))
-        list.insert(list.end(), more.begin(), more.end());
+    if (std::ranges::any_of(more, is_taken))
+        return false;
+    list.insert(list.end(), more.begin(), more.end());
+    return true;
 }
 
 void give_own_numbers(std::vector<Finish>& list) {
@@ -316,9 +319,10 @@ Finishing finishing_of(const Ppd_File& file, const Kind& kind) {
         if (!finishes_at_all(choices))
             continue;
         if (finishing.choices.empty())
-            finishing = {std::move(choices), option.default_choice};
-        else
-            join(finishing.choices, std::move(choices));
+            finishing = {std::move(choices), option.default_choice, {}};
+        else if (!join(finishing.choices, std::move(choices)))
+            continue;
+        finishing.keywords.emplace_back(keyword.name);
     }
     give_own_numbers(finishing.choices);
     const auto& list = finishing.choices;
@@ -423,4 +427,13 @@ void ppd_fill_destinations(const Ppd_File& file, const Factory& factory,
         bins.choices.size() > 1 || finishes ? Value::Ability_Settable_Listed : Value::Ability_Fixed,
         Ability::Ability_Media_Destination);
     capabilities.set_one_ability(Value::Ability_Settable_Listed, Ability::Ability_Media_Destination_Default);
+}
+
+std::vector<std::string> ppd_finishing_keywords(const Ppd_File& file) {
+    std::vector<std::string> keywords;
+    for (const Kind* const kind : {&collate, &staple, &cut, &fold}) {
+        const std::vector<std::string> more = finishing_of(file, *kind).keywords;
+        keywords.insert(keywords.end(), more.begin(), more.end());
+    }
+    return keywords;
 }

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <string>
+#include <vector>
+
 #include "examples/drivers/ppd/ppd_file.h"
 #include "toolkit/marvcon/marvcon.h"
 
@@ -14,3 +17,6 @@
 //   in the list.
 void ppd_fill_destinations(const Ppd_File& file, const PX_Plotter_Class_Factory& factory,
                            PX_Media_Capabilities& capabilities);
+
+// The keywords whose choices are in those lists.
+std::vector<std::string> ppd_finishing_keywords(const Ppd_File& file);

@@ -311,6 +311,15 @@ PX_Smart_Pointer<PX_Media_Capabilities> ppd_media_capabilities(const Ppd_File& f
     return capabilities;
 }
 
+std::vector<std::string> ppd_media_keywords(const Ppd_File& file) {
+    std::vector<std::string> keywords = ppd_finishing_keywords(file);
+    // The region repeats the sizes for those who choose the slot too.
+    for (const char* const keyword :
+         {"PageSize", "PageRegion", "InputSlot", "ManualFeed", "MediaType", "OutputBin", "Duplex"})
+        keywords.emplace_back(keyword);
+    return keywords;
+}
+
 void Ppd_Media_Validator::set_source_to_nearest() {
     const auto roots = m_plotter->get_plotter_capabilities();
     const auto choices = m_plotter->get_plotter_configuration();

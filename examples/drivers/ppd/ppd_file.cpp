@@ -63,6 +63,49 @@ bool covers(const char* constrained, const Ppd_Choice& choice) {
     return choice.name != L"None" && choice.name != L"Off" && choice.name != L"False";
 }
 
+// Null for a code that comes before any plot, and changes the device for good.
+std::optional<Ppd_Section> section_of(const ppd_option_t& option) {
+    switch (option.section) {
+        case PPD_ORDER_JCL:
+            return Ppd_Section::Job_Control;
+        case PPD_ORDER_PROLOG:
+            return Ppd_Section::Prolog;
+        case PPD_ORDER_PAGE:
+            return Ppd_Section::Page_Setup;
+        case PPD_ORDER_EXIT:
+            return std::nullopt;
+        default:
+            return Ppd_Section::Setup;
+    }
+}
+
+Ppd_Option read_option(const ppd_option_t& from) {
+    Ppd_Option option;
+    for (const ppd_choice_t& choice : items(from.choices, from.num_choices)) {
+        const std::wstring name = text::from_utf8(choice.choice);
+        // The library offers a value of the user's own as a choice too.
+        if (name.empty() || name == L"Custom" || has_choice(option.choices, name))
+            continue;
+        const std::wstring shown = text::from_utf8(text::on_one_line(choice.text));
+        option.choices.push_back({name, shown.empty() ? name : shown});
+    }
+    option.default_choice = text::from_utf8(from.defchoice);
+    if (!has_choice(option.choices, option.default_choice))
+        option.default_choice = option.choices.empty() ? L"" : option.choices.front().name;
+    return option;
+}
+
+std::string invocation(const ppd_option_t& option, const ppd_choice_t& choice) {
+    std::string code = or_empty(choice.code);
+    if (option.section == PPD_ORDER_JCL)
+        return code;
+    if (!code.empty() && code.back() != '\n')
+        code += '\n';
+    // A code that fails leaves what it wants on the stack.
+    return std::string("mark {\n%%BeginFeature: *") + option.keyword + ' ' + choice.choice + '\n' + code +
+           "%%EndFeature\n} stopped cleartomark\n";
+}
+
 bool is_extent(float length) {
     return std::isnormal(length) && length > 0;
 }
@@ -128,22 +171,57 @@ std::string Ppd_File::job_end() const {
 }
 
 Ppd_Option Ppd_File::option(const char* keyword) const {
-    Ppd_Option option;
     const ppd_option_t* const found = ppdFindOption(m_file.get(), keyword);
-    if (!found)
-        return option;
-    for (const ppd_choice_t& choice : items(found->choices, found->num_choices)) {
-        const std::wstring name = text::from_utf8(choice.choice);
-        // The library offers a value of the user's own as a choice too.
-        if (name.empty() || name == L"Custom" || has_choice(option.choices, name))
+    return found ? read_option(*found) : Ppd_Option();
+}
+
+std::vector<const ppd_option_s*> Ppd_File::options_for_plots() const {
+    std::vector<const ppd_option_t*> options;
+    for (const ppd_group_t& group : items(m_file->groups, m_file->num_groups)) {
+        if (std::strcmp(group.name, "InstallableOptions") == 0)
             continue;
-        const std::wstring shown = text::from_utf8(text::on_one_line(choice.text));
-        option.choices.push_back({name, shown.empty() ? name : shown});
+        for (const ppd_option_t& option : items(group.options, group.num_options)) {
+            const auto section = section_of(option);
+            const bool is_sent = section && (section != Ppd_Section::Job_Control || !job_begin().empty());
+            // Of two under one keyword, that which option() tells of.
+            if (is_sent && ppdFindOption(m_file.get(), option.keyword) == &option)
+                options.push_back(&option);
+        }
     }
-    option.default_choice = text::from_utf8(found->defchoice);
-    if (!has_choice(option.choices, option.default_choice))
-        option.default_choice = option.choices.empty() ? L"" : option.choices.front().name;
-    return option;
+    return options;
+}
+
+std::vector<Ppd_Named_Option> Ppd_File::options_besides(const std::vector<std::string>& keywords) const {
+    // By the library's own idea of which keywords are the same.
+    std::set<const ppd_option_t*> left_out;
+    for (const std::string& keyword : keywords)
+        left_out.insert(ppdFindOption(m_file.get(), keyword.c_str()));
+    std::vector<Ppd_Named_Option> options;
+    for (const ppd_option_t* const option : options_for_plots()) {
+        if (left_out.contains(option))
+            continue;
+        const std::wstring keyword = text::from_utf8(option->keyword);
+        const std::wstring shown = text::from_utf8(text::on_one_line(option->text));
+        options.push_back({read_option(*option), keyword, shown.empty() ? keyword : shown});
+    }
+    return options;
+}
+
+std::string Ppd_File::code(Ppd_Section section, const std::map<std::wstring, std::wstring>& choices) const {
+    std::vector<const ppd_option_t*> options = options_for_plots();
+    std::ranges::stable_sort(options, {}, &ppd_option_t::order);
+    std::string code;
+    for (const ppd_option_t* const option : options) {
+        const auto chosen = choices.find(text::from_utf8(option->keyword));
+        if (section_of(*option) != section || chosen == choices.end())
+            continue;
+        const auto offered = items(option->choices, option->num_choices);
+        const auto choice = std::ranges::find(
+            offered, chosen->second, [](const ppd_choice_t& one) { return text::from_utf8(one.choice); });
+        if (choice != offered.end())
+            code += invocation(*option, *choice);
+    }
+    return code;
 }
 
 std::vector<Ppd_Size> Ppd_File::sizes() const {

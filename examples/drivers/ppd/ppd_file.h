@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <map>
 #include <memory>
 #include <optional>
 #include <set>
@@ -10,6 +11,7 @@
 #include <vector>
 
 struct ppd_file_s;
+struct ppd_option_s;
 
 // The description cannot be used: it is not there, empty, broken, or tells of no device. One line for the
 // user, with the path and, for a broken one, the line where reading ended.
@@ -30,6 +32,15 @@ struct Ppd_Option {
     std::vector<Ppd_Choice> choices;
     std::wstring default_choice;
 };
+
+// An option with its keyword and the text that a person reads for it.
+struct Ppd_Named_Option : Ppd_Option {
+    std::wstring keyword;
+    std::wstring text;
+};
+
+// Where in a plot the code of an option belongs.
+enum class Ppd_Section { Job_Control, Prolog, Setup, Page_Setup };
 
 // A sheet with its printable area, in points from the lower left corner.
 struct Ppd_Size : Ppd_Choice {
@@ -62,6 +73,15 @@ public:
     // By its keyword. A default that names no choice gives way to the first choice.
     Ppd_Option option(const char* keyword) const;
 
+    // All but those under these keywords, in the order of the file. Left out too are the options that tell
+    // what is installed, and those whose code no plot can carry: that which changes the device for good, and
+    // commands of job control where no string begins the job.
+    std::vector<Ppd_Named_Option> options_besides(const std::vector<std::string>& keywords) const;
+    // What selects these choices, by keyword, in the order that the file asks for: between the strings of job
+    // control bare, elsewhere so that a failure of one does not end the plot. A choice that the file has not
+    // adds nothing.
+    std::string code(Ppd_Section section, const std::map<std::wstring, std::wstring>& choices) const;
+
     // The sheets of fixed size, in the order of the file, each name once. A sheet without extent is left out.
     // A printable area lies on the sheet; one that holds nothing is the whole sheet.
     std::vector<Ppd_Size> sizes() const;
@@ -75,6 +95,9 @@ private:
     struct Closer {
         void operator()(ppd_file_s* file) const;
     };
+
+    // The options that a user of the device sets for a plot.
+    std::vector<const ppd_option_s*> options_for_plots() const;
 
     std::filesystem::path m_path;
     std::unique_ptr<ppd_file_s, Closer> m_file;

@@ -16,6 +16,7 @@ using Value = PX_Ability_Value;
 using Factory = PX_Plotter_Class_Factory;
 
 constexpr wchar_t dithering_name[] = L"Device";
+constexpr const char* color_keyword = "ColorModel";
 constexpr const char* memory_keyword = "InstalledMemory";
 
 // What a mode can print; undithered are the colours that the inks make by themselves.
@@ -133,7 +134,7 @@ private:
     }
 
     void fill_modes() {
-        Ppd_Option models = m_file.option("ColorModel");
+        Ppd_Option models = m_file.option(color_keyword);
         const int own_system = is_color_device() ? Ppd_Color_System::Cmyk : Ppd_Color_System::Gray;
         if (models.choices.empty()) {
             const wchar_t* const only = is_color_device() ? L"Color" : L"Gray";
@@ -174,6 +175,13 @@ PX_Smart_Pointer<PX_ResColorMem_Capabilities> ppd_res_color_mem_capabilities(
     auto capabilities = made(factory.MK_Create_ResColorMem_Capabilities(), L"res_color_mem_capabilities");
     Color_Side(file, factory, *capabilities).fill();
     return capabilities;
+}
+
+std::vector<std::string> ppd_res_color_mem_keywords(const Ppd_File& file) {
+    std::vector<std::string> keywords = {color_keyword, memory_keyword};
+    if (ppd_resolutions(file).is_option)
+        keywords.emplace_back(ppd_resolution_keyword);
+    return keywords;
 }
 
 Ppd_ResColorMem_Validator::Ppd_ResColorMem_Validator(PX_Plotter_Definition* plotter,

@@ -25,6 +25,9 @@ struct Ppd_Color_System {
 PX_Smart_Pointer<PX_ResColorMem_Capabilities> ppd_res_color_mem_capabilities(
     const Ppd_File& file, const PX_Plotter_Class_Factory& factory);
 
+// The keywords of the options that are told above.
+std::vector<std::string> ppd_res_color_mem_keywords(const Ppd_File& file);
+
 // Memory that no area of the device has gives way to what the file takes for installed. All else is standard.
 class Ppd_ResColorMem_Validator : public PX_Std_ResColorMem_Validator {
 public:

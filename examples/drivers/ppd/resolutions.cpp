@@ -24,10 +24,11 @@ void add(Ppd_Resolutions& resolutions, const Ppd_Choice& choice) {
 }  // namespace
 
 Ppd_Resolutions ppd_resolutions(const Ppd_File& file) {
-    const Ppd_Option option = file.option("Resolution");
-    Ppd_Resolutions resolutions;
+    const Ppd_Option option = file.option(ppd_resolution_keyword);
+    Ppd_Resolutions resolutions{};
     for (const Ppd_Choice& choice : option.choices)
         add(resolutions, choice);
+    resolutions.is_option = !resolutions.choices.empty();
     if (const std::wstring only = file.text("DefaultResolution"); resolutions.choices.empty())
         add(resolutions, {only, only});
     if (resolutions.choices.empty())

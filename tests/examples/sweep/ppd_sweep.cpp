@@ -5,7 +5,7 @@
 #include <fstream>
 #include <iostream>
 #include <map>
-#include <random>
+#include <numeric>
 #include <set>
 #include <sstream>
 #include <string>
@@ -18,6 +18,8 @@
 #include "examples/plot_host/host_error_handler.h"
 #include "examples/plot_host/report.h"
 #include "examples/plot_host/saved_choice.h"
+#include "tests/examples/sweep/custom_choices.h"
+#include "tests/examples/sweep/draw.h"
 
 // Opens every description of a folder, and on every device a choice that was made on another one. A run over
 // the choice must leave it so that a second run changes nothing, and must not fail. The table of what was
@@ -31,11 +33,10 @@ using Device = PX_Smart_Pointer<PX_Plotter_Definition>;
 using Strategy = PX_Validation_Strategy;
 using Policy = PX_Validation_Policy;
 
-constexpr unsigned seed = 20230202;
-
 // The codes that the operations of a run are documented with, and those of the memory and argument failures.
-const std::set<unsigned long> documented = {303, 304, 305, 308, 309, 310, 311, 312,  315,  316,  317,
-                                            318, 319, 320, 321, 322, 323, 324, 1001, 1101, 1103, 1104};
+const std::set<unsigned long> documented = {303, 304, 305, 308, 309, 310,  311,  312,  315,
+                                            316, 317, 318, 319, 320, 321,  322,  323,  324,
+                                            702, 703, 704, 705, 706, 1001, 1101, 1103, 1104};
 
 // How often something was seen, and where first.
 class Tally {
@@ -56,25 +57,6 @@ public:
 
 private:
     std::map<std::string, std::pair<long, std::string>> m_entries;
-};
-
-struct Draw {
-    std::mt19937 numbers{seed};
-    // The distributions of the library are not the same everywhere.
-    std::size_t below(std::size_t count) { return numbers() % count; }
-    bool chance(unsigned of) { return numbers() % of == 0; }
-
-    template <class Entry>
-    PX_Smart_Pointer<Entry> one_of(const PX_Smart_Pointer<PX_Named_Object_List<Entry>>& list) {
-        if (!list || list->is_empty())
-            return nullptr;
-        std::size_t left = below(static_cast<std::size_t>(list->size()));
-        for (const auto& entry : *list) {
-            if (left-- == 0)
-                return entry;
-        }
-        return nullptr;
-    }
 };
 
 // What a user could choose on the device, over its defaults.
@@ -157,9 +139,12 @@ public:
         }
         count_what_it_offers(*device->get_plotter_capabilities()->get_media_capabilities());
         check_finishing(*device->get_plotter_capabilities()->get_media_capabilities());
+        m_settings.push_back(
+            device->get_plotter_capabilities()->get_custom_capabilities()->get_custom_list()->size());
         check_own_defaults(*device);
+        check_own_settings(*device);
         if (!m_choices.empty()) {
-            const std::string& choice = m_choices[m_draw.below(m_choices.size())];
+            const Choice& choice = m_choices[m_draw.below(m_choices.size())];
             for (const auto strategy : {Strategy::Use_Default, Strategy::Use_Nearest}) {
                 for (const auto policy : {Policy::Validate_Conditional, Policy::Reset_Conditional})
                     open_choice(*device, choice, strategy, policy);
@@ -171,7 +156,18 @@ public:
     bool report() const {
         std::cout << "| What | Count |\n| --- | ---: |\n"
                   << "| descriptions | " << m_files << " |\n"
-                  << "| runs over a choice of another device | " << m_runs << " |\n";
+                  << "| runs over a choice of another device | " << m_runs << " |\n"
+                  << "| settings of no other domain, all devices together | "
+                  << std::accumulate(m_settings.begin(), m_settings.end(), 0L) << " |\n";
+        if (auto sorted = m_settings; !sorted.empty()) {
+            std::ranges::sort(sorted);
+            std::cout << "| of one device, median | " << sorted[sorted.size() / 2] << " |\n"
+                      << "| of one device, at most | " << sorted.back() << " |\n";
+        }
+        std::cout << "| values drawn for a device's own settings | " << m_drawn << " |\n"
+                  << "| of them not the device's, changed by the run | " << m_drawn_wrong << " |\n"
+                  << "| values of a choice that its next device has a setting for | " << m_known << " |\n"
+                  << "| values that it has none for, dropped | " << m_dropped << " |\n";
         for (const auto& [what, count] : m_offered)
             std::cout << "| devices with " << what << " | " << count << " |\n";
         m_repaired.print("Changed by the first run");
@@ -183,6 +179,12 @@ public:
     }
 
 private:
+    // A saved choice; the values of the settings go along as they are.
+    struct Choice {
+        std::string text;
+        PX_Smart_Pointer<Custom_Items> items;
+    };
+
     void count_what_it_offers(const PX_Media_Capabilities& media) {
         const auto count = [&](const char* what, bool offered) { m_offered[what] += offered; };
         const auto lists = [&](Ability::Enum flag) { return media.get_one_ability(flag) > 0; };
@@ -262,15 +264,22 @@ private:
                                 [&](const std::string& datum, const std::string& change) {
                                     m_faults.count("own default changed: " + datum, m_where + change);
                                 });
+            if (validator->get_config_changed() & PX_Domain_Mask::Custom)
+                m_faults.count("own default changed: a setting", m_where);
         });
     }
 
-    void open_choice(PX_Plotter_Definition& device, const std::string& choice, Strategy::Enum strategy,
+    void open_choice(PX_Plotter_Definition& device, const Choice& choice, Strategy::Enum strategy,
                      Policy::Enum policy) {
-        std::ofstream(m_scratch, std::ios::binary) << choice;
+        std::ofstream(m_scratch, std::ios::binary) << choice.text;
         const auto configuration = plot_host::new_configuration(device);
         plot_host::load_choice(m_scratch, *configuration);
         device.set_plotter_configuration(configuration.get());
+        const auto items = known_to(device, *choice.items);
+        configuration->get_custom_configuration()->set_custom_list(items.get());
+        configuration->get_custom_configuration()->set_validated(false);
+        m_known += items->size();
+        m_dropped += choice.items->size() - items->size();
         const auto validator = device.get_plotter_validator();
         ++m_runs;
         const auto before = plot_host::take_snapshot(*configuration);
@@ -280,17 +289,52 @@ private:
         for_each_difference(before, once, [&](const std::string& datum, const std::string& change) {
             m_repaired.count(std::string(word_for(strategy)) + ": " + datum, m_where + change);
         });
+        if (const long changed = check_settings(device, *items, word_for(strategy)))
+            m_repaired.count(std::string(word_for(strategy)) + ": Setting",
+                             m_where + ": " + std::to_string(changed));
         check_consistency(device);
+        const auto items_once = copy_of_items(device);
         clear_validated(*configuration);
         if (!without_failure(std::string(word_for(strategy)) + ", second run",
                              [&] { validator->validate_all(strategy, policy, true); }))
             return;
+        if (check_settings(device, *items_once, "second run"))
+            m_faults.count("second run: a setting", m_where);
         count_bits_of_second_run(device, validator->get_media_cfg_changes(), strategy);
         for_each_difference(once, plot_host::take_snapshot(*configuration),
                             [&](const std::string& datum, const std::string& change) {
                                 m_faults.count(std::string(word_for(strategy)) + ", second run: " + datum,
                                                m_where + change);
                             });
+    }
+
+    // How many the run has changed.
+    long check_settings(const PX_Plotter_Definition& device, const Custom_Items& before,
+                        const std::string& what) {
+        const Custom_Outcome outcome = outcome_of_run(device, before);
+        for (const std::string& fault : outcome.faults)
+            m_faults.count(what + ": " + fault, m_where);
+        return outcome.changed;
+    }
+
+    static PX_Smart_Pointer<Custom_Items> copy_of_items(const PX_Plotter_Definition& device) {
+        const PX_Smart_Pointer copy(device.get_plotter_configuration()->get_custom_configuration()->clone());
+        return copy->get_custom_list();
+    }
+
+    // Moved to another device, most items are dropped: here, every setting has its turn.
+    void check_own_settings(PX_Plotter_Definition& device) {
+        without_failure("own settings", [&] {
+            const auto configuration = plot_host::new_configuration(device);
+            device.set_plotter_configuration(configuration.get());
+            const auto validator = device.get_plotter_validator();
+            validator->set_all_to_defaults();
+            const auto items = draw_custom_items(m_draw, device);
+            configuration->get_custom_configuration()->set_custom_list(items.get());
+            validator->validate_all(Strategy::Use_Nearest, Policy::Validate_Conditional, true);
+            m_drawn += items->size();
+            m_drawn_wrong += check_settings(device, *items, "own settings");
+        });
     }
 
     void count_bits_of_second_run(const PX_Plotter_Definition& device, long bits, Strategy::Enum strategy) {
@@ -379,6 +423,7 @@ private:
         configuration.get_media_configuration()->set_validated(false);
         configuration.get_res_color_mem_configuration()->set_validated(false);
         configuration.get_init_term_configuration()->set_validated(false);
+        configuration.get_custom_configuration()->set_validated(false);
     }
 
     // Every second choice is made by a user; the others are the defaults.
@@ -392,11 +437,13 @@ private:
                 choose(m_draw, *offered->get_media_capabilities(), *configuration->get_media_configuration());
                 choose(m_draw, *offered->get_res_color_mem_capabilities(),
                        *configuration->get_res_color_mem_configuration());
+                configuration->get_custom_configuration()->set_custom_list(
+                    draw_custom_items(m_draw, device).get());
             }
             plot_host::save_choice(m_scratch, {"", m_where}, *configuration);
             std::ostringstream text;
             text << std::ifstream(m_scratch, std::ios::binary).rdbuf();
-            m_choices.push_back(text.str());
+            m_choices.push_back({text.str(), copy_of_items(device)});
             const auto restored = plot_host::new_configuration(device);
             plot_host::load_choice(m_scratch, *restored);
             for_each_difference(plot_host::take_snapshot(*configuration), plot_host::take_snapshot(*restored),
@@ -412,9 +459,12 @@ private:
     PX_Smart_Pointer<PX_Error_Handler> m_handler;
     Draw m_draw;
     std::string m_where;
-    std::vector<std::string> m_choices;
+    std::vector<Choice> m_choices;
+    std::vector<long> m_settings;
     long m_files = 0;
     long m_runs = 0;
+    long m_drawn = 0, m_drawn_wrong = 0;
+    long m_known = 0, m_dropped = 0;
     std::map<std::string, long> m_offered;
     Tally m_repaired, m_rules, m_rejected, m_errors, m_faults;
 };

@@ -56,23 +56,21 @@ public:
         *this = Expected();
         m_before = sink.size();
     }
-    // Of a write that told this.
+    // Of a write that told this. An Abort comes with any part of the bytes sent already.
     void wrote(const std::string& bytes, long told) {
-        require(told >= -1 && told <= static_cast<long>(bytes.size()), "what a write tells is possible");
-        // An Abort comes with any part of the bytes sent already.
-        m_bytes.append(bytes, 0, told == -1 ? bytes.npos : static_cast<std::size_t>(told));
+        require(told >= -1 && told <= std::ssize(bytes), "what a write tells is possible");
+        m_bytes.append(bytes, 0, static_cast<std::size_t>(told));
     }
     // A channel that does not ask by itself drops what finds the buffer full, and tells otherwise.
     void may_drop() { m_may_lack = true; }
     void purged(const std::string& sink) {
-        check(sink);
+        check(sink, false);
         m_bytes = sink.substr(m_before);
     }
-
-    void check(const std::string& sink) const {
+    void check(const std::string& sink, bool is_whole) const {
         const auto got = std::string_view(sink).substr(m_before);
-        if (!m_may_lack)
-            require(m_bytes.starts_with(got), "the device gets the bytes in their order");
+        require(m_may_lack || m_bytes.starts_with(got), "the device gets the bytes in their order");
+        require(m_may_lack || !is_whole || m_bytes.size() == got.size(), "nothing is lost");
         // Every byte stands for what was told of once.
         auto at = m_bytes.begin();
         for (const char byte : got) {
@@ -80,11 +78,6 @@ public:
             require(at != m_bytes.end(), "no byte goes out twice");
             ++at;
         }
-    }
-    void check_whole(const std::string& sink) const {
-        check(sink);
-        if (!m_may_lack)
-            require(sink.size() - m_before == m_bytes.size(), "nothing is lost");
     }
 
 private:
@@ -124,8 +117,7 @@ private:
         if (devices & 1)
             m_machine.add_printer({.name = L"owner", .port = L"COM1:,LPT1:", .driver = L"driver"});
         if (devices & 2)
-            m_machine.add_driver(L"driver",
-                                 devices & 4 ? std::optional<std::wstring>(L"monitor") : std::nullopt);
+            m_machine.add_driver(L"driver", devices & 4 ? std::optional(L"monitor") : std::nullopt);
         if (devices & 8)
             m_machine.redirect(L"LPT1", L"queue");
         if (devices & 16)
@@ -133,7 +125,6 @@ private:
         if (devices & 32)
             m_machine.pretend_platform_id(VER_PLATFORM_WIN32_WINDOWS);
         for (const wchar_t* const sink : {L"COM1", L"LPT1", L"queue", L"owner", L"plot"}) {
-            std::vector<DWORD> portions;
             for (int left = m_input.up_to(3); left > 0; --left) {
                 if (m_input.flag())
                     m_machine.fail_having_taken(sink, m_input.byte());
@@ -158,7 +149,7 @@ private:
         }
         constexpr const wchar_t* ports[] = {L"COM1", L"LPT1", L"plot", L"COM1:", L"nowhere", L""};
         cfg->set_type(Number{m_input.flag() ? 4 + m_input.up_to(2) : m_input.number<int>()});
-        cfg->set_portname(ports[m_input.up_to(5)]);
+        cfg->set_portname(m_input.one_of(ports));
         cfg->set_plot_to_file(m_input.rarely(4));
         cfg->set_all_system_ports_valid(m_input.flag());
         cfg->set_output_timeout(m_input.number());
@@ -179,44 +170,38 @@ private:
     std::string sink() const { return m_machine.bytes_written_to(m_sink); }
 
     void take_a_turn() {
-        switch (m_input.up_to(9)) {
-            case 0:
-                return open();
-            case 1:
-                return order_fault();
-            case 2:
-                close();
-                break;
-            case 3:
-                m_io->flush();
-                break;
-            case 4:
-                m_io->purge();
-                if (m_is_open)
-                    m_expected.purged(sink());
-                break;
-            case 5:
-                m_io->set_buffer_size(m_input.number());
-                break;
-            case 6:
-                return turn_buffering(m_input.flag());
-            case 7:
-                m_io->set_handle_ari_for_drv(!m_input.rarely(4));
-                break;
-            case 8: {
-                char bytes[16];
-                const long count = m_io->read(bytes, static_cast<unsigned long>(m_input.up_to(16)));
-                require(count >= -1 && count <= 16, "what a read tells is possible");
-                break;
-            }
-            default:
-                write();
-        }
+        constexpr void (Job::*turns[])() = {&Job::open,  &Job::order_fault, &Job::close,
+                                            &Job::flush, &Job::purge,       &Job::set,
+                                            &Job::read,  &Job::write,       &Job::turn_buffering};
+        (this->*m_input.one_of(turns))();
     }
     void order_fault() {
-        const char* const operation = operations[m_input.up_to(std::size(operations) - 1)];
+        const char* const operation = m_input.one_of(operations);
         const int times = 1 + m_input.up_to(2);
         m_machine.fail(operation, times, m_input.up_to(3));
+    }
+    void purge() {
+        m_io->purge();
+        if (m_is_open)
+            m_expected.purged(sink());
+    }
+    void set() {
+        if (m_input.flag())
+            m_io->set_buffer_size(m_input.number());
+        else
+            m_io->set_handle_ari_for_drv(!m_input.rarely(4));
+    }
+    void flush() { m_io->flush(); }
+    void turn_buffering() {
+        // With bytes in the buffer turning it off does not return.
+        const bool on = m_input.flag();
+        if (on || m_io->flush())
+            m_io->set_io_buffering(on);
+    }
+    void read() {
+        char bytes[16];
+        const long count = m_io->read(bytes, static_cast<unsigned long>(m_input.up_to(16)));
+        require(count >= -1 && count <= 16, "what a read tells is possible");
     }
     void open() {
         if (m_is_open || !m_io->configure(m_device.get()))
@@ -232,11 +217,6 @@ private:
         require(!open.empty(), "what is open is open on the machine");
         m_sink = open.back();
         m_expected.begin(sink());
-    }
-    void turn_buffering(bool on) {
-        // With bytes in the buffer this does not return.
-        if (on || m_io->flush())
-            m_io->set_io_buffering(on);
     }
     void write() {
         // No two bytes that are near to each other are alike.
@@ -256,10 +236,7 @@ private:
             return;
         const bool is_well = m_io->close();
         m_is_open = false;
-        if (is_well && !m_handler->has_aborted)
-            m_expected.check_whole(sink());
-        else
-            m_expected.check(sink());
+        m_expected.check(sink(), is_well && !m_handler->has_aborted);
     }
 
     Input& m_input;

@@ -1,3 +1,6 @@
+#include <algorithm>
+#include <string_view>
+
 #include "fuzz/custom.h"
 
 // The values of custom data, compared and assigned across all classes, against a plain account of each.
@@ -10,19 +13,16 @@ using fuzz::require;
 using Value = PX_Custom_Data;
 
 template <class Contract>
-const Contract& as(const Value& value) {
-    return dynamic_cast<const Contract&>(value);
+auto payload(const Value& value) {
+    return dynamic_cast<const Contract&>(value).data();
 }
 
 // As the bytes that comparisons of texts and raw values go by.
 Bytes bytes_of(const Value& value) {
+    if (const auto* const raw = dynamic_cast<const PX_Raw_Custom_Data*>(&value))
+        return Bytes(raw->data(), raw->data() + raw->size());
     Bytes bytes;
-    if (value.type() == PX_Data_Type::Data_Raw) {
-        const auto& raw = as<PX_Raw_Custom_Data>(value);
-        bytes.assign(raw.data(), raw.data() + raw.size());
-        return bytes;
-    }
-    for (const wchar_t* text = as<PX_String_Custom_Data>(value).data(); *text; ++text) {
+    for (const wchar_t* text = payload<PX_String_Custom_Data>(value); *text; ++text) {
         bytes.push_back(static_cast<unsigned char>(*text));
         bytes.push_back(static_cast<unsigned char>(*text >> 8));
     }
@@ -39,11 +39,9 @@ int difference(const Bytes& left, const Bytes& right) {
 }
 
 bool is_in_one_unit(const Value& text) {
-    for (const wchar_t* each = as<PX_String_Custom_Data>(text).data(); *each; ++each) {
-        if (*each < 0 || *each > 0xFFFF || (*each >= 0xD800 && *each < 0xE000))
-            return false;
-    }
-    return true;
+    return std::ranges::all_of(std::wstring_view(payload<PX_String_Custom_Data>(text)), [](wchar_t each) {
+        return each >= 0 && each <= 0xFFFF && (each < 0xD800 || each >= 0xE000);
+    });
 }
 
 struct Order {
@@ -56,29 +54,31 @@ Order order(Number left, Number right) {
 }
 
 Order expected(const Value& left, const Value& right) {
-    switch (left.type()) {
-        case PX_Data_Type::Data_Long:
-            return order(as<PX_Long_Custom_Data>(left).data(), as<PX_Long_Custom_Data>(right).data());
-        case PX_Data_Type::Data_Double:
-            return order(as<PX_Double_Custom_Data>(left).data(), as<PX_Double_Custom_Data>(right).data());
-        case PX_Data_Type::Data_Boolean:
-            return order(as<PX_Boolean_Custom_Data>(left).data(), as<PX_Boolean_Custom_Data>(right).data());
-        default: {
-            const Bytes own = bytes_of(left), other = bytes_of(right);
-            const int found = difference(own, other);
-            const bool is_raw = left.type() == PX_Data_Type::Data_Raw;
-            return {is_raw ? found == 0 && own.size() <= other.size() : own == other, found<0, found> 0};
-        }
-    }
+    const auto type = left.type();
+    if (type == PX_Data_Type::Data_Long)
+        return order(payload<PX_Long_Custom_Data>(left), payload<PX_Long_Custom_Data>(right));
+    if (type == PX_Data_Type::Data_Double)
+        return order(payload<PX_Double_Custom_Data>(left), payload<PX_Double_Custom_Data>(right));
+    if (type == PX_Data_Type::Data_Boolean)
+        return order(payload<PX_Boolean_Custom_Data>(left), payload<PX_Boolean_Custom_Data>(right));
+    const Bytes own = bytes_of(left), other = bytes_of(right);
+    const int found = difference(own, other);
+    const bool is_equal =
+        type == PX_Data_Type::Data_Raw ? found == 0 && own.size() <= other.size() : own == other;
+    return {is_equal, found<0, found> 0};
+}
+
+Order told(const Value& left, const Value& right) {
+    return {left.operator==(right) != 0, left.operator<(right) != 0, left.operator>(right) != 0};
 }
 
 void compare(const Value& left, const Value& right) {
-    const Order told{left.operator==(right) != 0, left.operator<(right) != 0, left.operator>(right) != 0};
-    require(told.equal + told.below + told.above <= 1, "no two comparisons hold at once");
+    const Order order = told(left, right);
+    require(order.equal + order.below + order.above <= 1, "no two comparisons hold at once");
     if (left.type() != right.type())
-        require(told == Order(), "classes do not compare with each other");
+        require(order == Order(), "classes do not compare with each other");
     else if (left.type() != PX_Data_Type::Data_String || (is_in_one_unit(left) && is_in_one_unit(right)))
-        require(told == expected(left, right), "the order of two values of one class");
+        require(order == expected(left, right), "the order of two values of one class");
 }
 
 // The copy that a setter makes is as its original; an assignment takes only from the own class.
@@ -89,20 +89,16 @@ void copy_and_assign(Value& value, const Value& other) {
     require(holder.get_data_type() == value.type() && copy != &value, "a setter copies");
     const Order as_itself =
         value.type() == PX_Data_Type::Data_Double ? expected(value, value) : Order{.equal = true};
-    const auto check = [&](const Value& one, const Value& same) {
-        require(
-            Order{one.operator==(same) != 0, one.operator<(same) != 0, one.operator>(same) != 0} == as_itself,
-            "a copy is equal");
-    };
-    check(*copy, value);
+    const auto check_copy = [&] { require(told(*copy, value) == as_itself, "a copy is equal"); };
+    check_copy();
     const Value& itself = value;
     value = itself;
-    check(*copy, value);
+    check_copy();
     value = other;
     if (value.type() == other.type())
         compare(value, other);
     else
-        check(*copy, value);
+        check_copy();
     require(value.type() == copy->type(), "a value stays of its class");
 }
 

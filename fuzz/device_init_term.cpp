@@ -1,22 +1,18 @@
-#include <vector>
-
+#include "fuzz/custom.h"
 #include "fuzz/device.h"
 
 namespace fuzz {
 
 void fill(Input& input, PX_InitTerm_Capabilities& caps, PX_InitTerm_Configuration& cfg) {
-    using Configuration = PX_InitTerm_Configuration;
+    using Cfg = PX_InitTerm_Configuration;
     fill_abilities(input, caps);
-    using Set = void (Configuration::*)(unsigned char*, long);
-    for (const Set set : {static_cast<Set>(&Configuration::set_preinit_string),
-                          static_cast<Set>(&Configuration::set_postinit_string),
-                          static_cast<Set>(&Configuration::set_termination_string)}) {
-        std::vector<unsigned char> bytes(static_cast<std::size_t>(input.up_to(4)));
-        for (unsigned char& each : bytes)
-            each = input.byte();
-        const bool has_none = input.rarely();
-        const long length = input.rarely() ? -1 : static_cast<long>(bytes.size());
-        (cfg.*set)(has_none ? nullptr : bytes.data(), length);
+    using Set = void (Cfg::*)(unsigned char*, long);
+    for (const Set set :
+         {static_cast<Set>(&Cfg::set_preinit_string), static_cast<Set>(&Cfg::set_postinit_string),
+          static_cast<Set>(&Cfg::set_termination_string)}) {
+        Bytes string = bytes(input, 4);
+        const long length = input.rarely() ? -1 : static_cast<long>(string.size());
+        (cfg.*set)(input.rarely() ? nullptr : string.data(), length);
     }
 }
 

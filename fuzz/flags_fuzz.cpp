@@ -1,5 +1,7 @@
 #include <algorithm>
 #include <cwchar>
+#include <map>
+#include <set>
 
 #include "fuzz/support.h"
 #include "toolkit/marvcon/marvcon.h"
@@ -138,63 +140,111 @@ void check_range(int flag, int count, Call call) {
         check_range(number, Flags::range.count, [&] { static_cast<void>((object).get_one_##one(flag)); }); \
     } while (false)
 
-template <class Capabilities, class Abilities>
-void drive_abilities(Input& input, Capabilities& object) {
-    DRIVE(object, abilities, ability, Abilities, PX_Ability_Value::Enum);
-}
-template <class Capabilities, class Abilities, class States, class Owners>
+// The accessors of one class; it lacks the groups that are void.
+template <class Capabilities, class Abilities, class States = void, class Owners = void>
 void drive_groups(Input& input) {
     Capabilities object;
     while (!input.is_empty()) {
-        drive_abilities<Capabilities, Abilities>(input, object);
-        DRIVE(object, ui_owner, ui_owner, Owners, PX_UI_Owner::Enum);
+        DRIVE(object, abilities, ability, Abilities, PX_Ability_Value::Enum);
+        if constexpr (!std::is_void_v<Owners>)
+            DRIVE(object, ui_owner, ui_owner, Owners, PX_UI_Owner::Enum);
         if constexpr (!std::is_void_v<States>)
             DRIVE(object, caps_state, caps_state, States, bool);
-        const PX_Smart_Pointer<std::remove_pointer_t<decltype(object.clone())>> clone(object.clone());
-        require(std::wcscmp(clone->get_abilities(), object.get_abilities()) == 0 &&
-                    std::wcscmp(clone->get_ui_owner(), object.get_ui_owner()) == 0,
-                "a clone has the same flags");
+        const PX_Smart_Pointer clone(object.clone());
+        bool is_same = std::wcscmp(clone->get_abilities(), object.get_abilities()) == 0;
+        if constexpr (!std::is_void_v<Owners>)
+            is_same = is_same && std::wcscmp(clone->get_ui_owner(), object.get_ui_owner()) == 0;
+        if constexpr (!std::is_void_v<States>)
+            is_same = is_same && std::wcscmp(clone->get_caps_state(), object.get_caps_state()) == 0;
+        require(is_same, "a clone has the same flags");
     }
 }
+
+// Line patterns, of which none is refused: a bit for each in a text, and a size for those that there are.
+void drive_patterns(Input& input) {
+    PX_Smart_Pointer<PX_Linetype_Capabilities> object(new PX_Std_Linetype_Capabilities);
+    std::wstring digits(5, L'0');
+    std::map<int, float> sizes;
+    while (!input.is_empty()) {
+        const int number = input.number<int>();
+        const auto pattern = static_cast<PX_Line_Pattern::Enum>(number);
+        const bool on = input.flag();
+        if (const int kind = input.up_to(3); kind == 0) {
+            digits = input.text(8);
+            object->set_linefont_capabilities(digits.c_str());
+        } else if (kind == 1) {
+            store<PX_Boolean_Flags>(digits, on, number);
+            object->set_linefont_capability(on, pattern);
+        } else if (kind == 2) {
+            std::ranges::fill(digits, digit(on ? 15 : 0));
+            object->set_linefont_capabilities(on);
+        } else {
+            const auto size = static_cast<float>(input.byte());
+            if (number >= 0 && number < PX_Line_Pattern::count)
+                sizes[number] = size;
+            object->set_linefont_size(pattern, size);
+        }
+        object = object->clone();
+        require(object->get_linefont_capability(pattern) == expected<PX_Boolean_Flags>(digits, number),
+                "whether there is a pattern");
+        require(object->get_linefont_size(pattern) == (sizes.contains(number) ? sizes[number] : 0),
+                "the size of a pattern");
+    }
+}
+
+// The used code points. Those without room in the set are the caller's mistake.
+void drive_code_points(Input& input) {
+    PX_Smart_Pointer usage(new PX_Font_Usage_Data);
+    usage->set_single_byte(true);
+    std::set<int> used;
+    while (!input.is_empty()) {
+        const int point = input.number<unsigned short>() % (usage->get_single_byte() ? 8704 : 65536);
+        switch (input.up_to(4)) {
+            case 0:
+                usage->set_single_byte(input.flag());
+                used.clear();
+                continue;
+            case 1:
+                usage->clear_all();
+                used.clear();
+                break;
+            case 2:
+                usage = usage->clone();
+                break;
+            default:
+                usage->set_bit(point);
+                used.insert(point);
+        }
+        require(usage->codepoint_used(point) == used.contains(point), "a code point");
+        require(usage->how_many() == std::ssize(used), "how many code points");
+    }
+}
+
+constexpr void (*turns[])(Input&) = {
+    drive<PX_Abilities, PX_Ability_Value::Enum>,
+    drive<PX_UI_Ownership, PX_UI_Owner::Enum>,
+    drive<PX_Boolean_Flags, bool>,
+    drive_groups<PX_Std_Media_Capabilities, PX_Media_Ability_Flags, PX_Media_User_Flags,
+                 PX_Media_UI_Owner_Flags>,
+    drive_groups<PX_Std_ResColorMem_Capabilities, PX_ResColorMem_Ability_Flags, PX_ResColorMem_User_Flags,
+                 PX_ResColorMem_UI_Owner_Flags>,
+    drive_groups<PX_Std_Plotter_IO_Capabilities, PX_Plotter_IO_Ability_Flags, PX_Plotter_IO_User_Flags,
+                 PX_IO_UI_Owner_Flags>,
+    drive_groups<PX_Std_InitTerm_Capabilities, PX_InitTerm_Ability_Flags, void, PX_InitTerm_UI_Owner_Flags>,
+    drive_groups<PX_Std_IO_Method, PX_IO_Method_Ability_Flags>,
+    drive_groups<PX_Std_IO_Port, PX_IO_Port_Ability_Flags>,
+    drive_groups<PX_Std_PhysPen_Capabilities, PX_Pen_Ability_Flags, PX_Pen_User_Flags,
+                 PX_PhysPen_UI_Owner_Flags>,
+    drive_groups<PX_Std_Linetype_Capabilities, PX_Linetype_Ability_Flags, PX_Linetype_User_Flags>,
+    drive_groups<PX_Std_Raster_Capabilities, PX_Raster_Ability_Flags, PX_Raster_User_Flags>,
+    drive_patterns,
+    drive_code_points,
+};
 
 }  // namespace
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {
     Input input(bytes, size);
-    switch (input.up_to(7)) {
-        case 0:
-            drive<PX_Abilities, PX_Ability_Value::Enum>(input);
-            break;
-        case 1:
-            drive<PX_UI_Ownership, PX_UI_Owner::Enum>(input);
-            break;
-        case 2:
-            drive<PX_Boolean_Flags, bool>(input);
-            break;
-        case 3:
-            drive_groups<PX_Std_Media_Capabilities, PX_Media_Ability_Flags, PX_Media_User_Flags,
-                         PX_Media_UI_Owner_Flags>(input);
-            break;
-        case 4:
-            drive_groups<PX_Std_ResColorMem_Capabilities, PX_ResColorMem_Ability_Flags,
-                         PX_ResColorMem_User_Flags, PX_ResColorMem_UI_Owner_Flags>(input);
-            break;
-        case 5:
-            drive_groups<PX_Std_Plotter_IO_Capabilities, PX_Plotter_IO_Ability_Flags,
-                         PX_Plotter_IO_User_Flags, PX_IO_UI_Owner_Flags>(input);
-            break;
-        case 6:
-            drive_groups<PX_Std_InitTerm_Capabilities, PX_InitTerm_Ability_Flags, void,
-                         PX_InitTerm_UI_Owner_Flags>(input);
-            break;
-        default: {
-            PX_Std_IO_Method method;
-            PX_Std_IO_Port port;
-            while (!input.is_empty()) {
-                drive_abilities<PX_IO_Method, PX_IO_Method_Ability_Flags>(input, method);
-                drive_abilities<PX_IO_Port, PX_IO_Port_Ability_Flags>(input, port);
-            }
-        }
-    }
+    input.one_of(turns)(input);
     return 0;
 }

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <array>
 #include <bit>
 #include <climits>
 #include <cstdint>
@@ -9,7 +8,6 @@
 #include <limits>
 #include <span>
 #include <string>
-#include <type_traits>
 
 // What a fuzz program does with its input. The engine calls it; so does run_corpus.cpp for the kept cases.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size);
@@ -44,53 +42,54 @@ public:
     // One time in so many.
     bool rarely(int times = 8) { return up_to(times - 1) == times - 1; }
 
+    template <class Value, std::size_t count>
+    const Value& one_of(const Value (&values)[count]) {
+        return values[static_cast<std::size_t>(up_to(count - 1))];
+    }
+
     // Mostly small, sometimes at an end of a type, sometimes anything.
     template <class Number = long>
     Number number() {
-        constexpr std::array<long, 10> ends = {-1,       -2,       INT_MAX,  INT_MIN,  LONG_MAX,
-                                               LONG_MIN, SHRT_MAX, SHRT_MIN, UINT_MAX, LONG_MAX - 1};
-        long result = 0;
-        switch (const int kind = up_to(7)) {
-            case 5:
-                return byte();
-            case 6:
-                result = ends[static_cast<std::size_t>(up_to(ends.size() - 1))];
-                break;
-            case 7:
-                for (std::size_t at = 0; at < sizeof result; ++at)
-                    result = static_cast<long>(static_cast<unsigned long>(result) << 8 | byte());
-                break;
-            default:
-                result = kind;
-        }
-        return static_cast<Number>(result);
+        constexpr long ends[] = {-1,       -2,       INT_MAX,  INT_MIN,  LONG_MAX,
+                                 LONG_MIN, SHRT_MAX, SHRT_MIN, UINT_MAX, LONG_MAX - 1};
+        const int kind = up_to(7);
+        if (kind < 5)
+            return static_cast<Number>(kind);
+        if (kind == 5)
+            return static_cast<Number>(byte());
+        if (kind == 6)
+            return static_cast<Number>(one_of(ends));
+        unsigned long any = 0;
+        for (std::size_t at = 0; at < sizeof any; ++at)
+            any = any << 8 | byte();
+        return static_cast<Number>(any);
     }
     // As a measure: mostly one of a few, sometimes one that is no number or hardly one.
     float real() {
-        constexpr std::array<float, 7> usual = {0, 1, 100, 210, 210.5F, 297, 420};
         using Limits = std::numeric_limits<float>;
-        constexpr std::array<float, 7> odd = {Limits::quiet_NaN(),
-                                              Limits::infinity(),
-                                              -Limits::infinity(),
-                                              Limits::max(),
-                                              Limits::lowest(),
-                                              Limits::min(),
-                                              -0.0F};
+        constexpr float usual[] = {0, 1, 100, 210, 210.5F, 297, 420};
+        constexpr float odd[] = {Limits::quiet_NaN(),
+                                 Limits::infinity(),
+                                 -Limits::infinity(),
+                                 Limits::max(),
+                                 Limits::lowest(),
+                                 Limits::min(),
+                                 -0.0F};
         switch (up_to(9)) {
             case 7:
                 return static_cast<float>(number<short>()) / 10;
             case 8:
-                return odd[static_cast<std::size_t>(up_to(odd.size() - 1))];
+                return one_of(odd);
             case 9:
                 return std::bit_cast<float>(number<std::uint32_t>());
             default:
-                return usual[static_cast<std::size_t>(up_to(usual.size() - 1))];
+                return one_of(usual);
         }
     }
     // Out of a pool that is small enough for two to meet.
     const wchar_t* name() {
-        constexpr std::array names = {L"a", L"b", L"a", L"b", L"c", L"", L"A"};
-        return names[static_cast<std::size_t>(up_to(names.size() - 1))];
+        constexpr const wchar_t* names[] = {L"a", L"b", L"a", L"b", L"c", L"", L"A"};
+        return one_of(names);
     }
     const wchar_t* name_or_null() { return rarely(16) ? nullptr : name(); }
     // Any characters but the one that ends a text, digits for the most part.

@@ -1,3 +1,4 @@
+#include <array>
 #include <vector>
 
 #include "fuzz/device.h"
@@ -13,8 +14,7 @@ using fuzz::require;
 using support::Device;
 using support::Number;
 
-// Calls `each` with the capabilities and the configuration of every domain. The next domain gets its line
-// here.
+// Calls `each` with the capabilities and the configuration of every domain. The next one gets its line here.
 template <class Each>
 void for_each_domain(const Device& device, Each each) {
     each(*device.media_caps(), *device.media_cfg());
@@ -22,24 +22,7 @@ void for_each_domain(const Device& device, Each each) {
     each(*device.rcm_caps(), *device.rcm_cfg());
     each(*device.init_term_caps(), *device.init_term_cfg());
     each(*device.custom_caps(), *device.custom_cfg());
-}
-
-// In both roots, clones of what the other device has. The clone does not take the flags of the overwriting
-// along.
-void copy_domains(const Device& from, Device& to) {
-    const auto caps = to->get_plotter_capabilities();
-    const auto cfg = to->get_plotter_configuration();
-    caps->set_media_capabilities(from.media_caps().get());
-    caps->set_io_capabilities(from.io_caps().get());
-    caps->set_res_color_mem_capabilities(from.rcm_caps().get());
-    caps->set_init_term_capabilities(from.init_term_caps().get());
-    caps->set_custom_capabilities(from.custom_caps().get());
-    cfg->set_media_configuration(from.media_cfg().get());
-    cfg->set_io_configuration(from.io_cfg().get());
-    cfg->set_res_color_mem_configuration(from.rcm_cfg().get());
-    cfg->set_init_term_configuration(from.init_term_cfg().get());
-    cfg->set_custom_configuration(from.custom_cfg().get());
-    to->set_meta_capabilities(from->get_meta_capabilities().get());
+    each(*device.pen_caps(), *device.pen_cfg());
 }
 
 // Domain by domain.
@@ -63,15 +46,32 @@ struct Arguments {
     bool validate_settable;
 };
 
+// The change words with the bits that they may have, and their bit among the domains.
+struct Word {
+    long (PX_Plotter_Validator::*get)() const;
+    long bits, domain;
+};
+constexpr Word words[] = {{&PX_Plotter_Validator::get_io_cfg_changes, 0xFF, 1},
+                          {&PX_Plotter_Validator::get_media_cfg_changes, 0x7FEFF, 2},
+                          {&PX_Plotter_Validator::get_res_color_mem_cfg_changes, 0xEFF, 8},
+                          {&PX_Plotter_Validator::get_phys_pen_cfg_changes, 0x1F, 16},
+                          {&PX_Plotter_Validator::get_init_term_cfg_changes, 0, 32}};
+using Changes = std::array<long, std::size(words)>;
+
 struct Result {
     unsigned int code = 0;  // of what was thrown
     bool is_changed = false;
-    long media = 0, io = 0, pens = 0, rcm = 0, init_term = 0;
+    Changes changes{};
     int custom = 0;  // items
     Data data;
 
     bool operator==(const Result&) const = default;
 };
+
+// These change together or not at all.
+void require_together(long word, long bits) {
+    require((word & bits) == 0 || (word & bits) == bits, "what belongs together changes together");
+}
 
 Result run(const Device& device, const Arguments& arguments) {
     const auto validator = device.validator();
@@ -83,25 +83,18 @@ Result run(const Device& device, const Arguments& arguments) {
         result.code = thrown.m_code;
         require(thrown.m_code != 0, "a failure has a code");
     }
-    result.media = validator->get_media_cfg_changes();
-    result.io = validator->get_io_cfg_changes();
-    result.pens = validator->get_phys_pen_cfg_changes();
-    result.rcm = validator->get_res_color_mem_cfg_changes();
-    result.init_term = validator->get_init_term_cfg_changes();
     for (const auto& item : *device.custom_cfg()->get_custom_list())
         result.custom += validator->get_one_custom_cfg_change(item->get_canonical_name());
     result.data = all_data(device);
-
-    require((result.media & ~0x7FEFFL) == 0, "the bits of the media");
-    require((result.io & ~0xFFL) == 0, "the bits of the output");
-    require((result.pens & ~0x1FL) == 0, "the bits of the pens");
-    require((result.rcm & ~0xEFFL) == 0, "the bits of resolution, colour and memory");
-    require(result.init_term == 0, "strings raise no bit");
-    require((result.io & 3) == 0 || (result.io & 3) == 3, "port name and type change together");
-    require((result.media & 0x1E004) == 0 || (result.media & 0x1E004) == 0x1E004,
-            "the finishing options change with the destination");
-    const long domains = (result.io ? 1 : 0) | (result.media ? 2 : 0) | (result.rcm ? 8 : 0) |
-                         (result.pens ? 16 : 0) | (result.custom ? 4 : 0);
+    long domains = result.custom ? 4 : 0;
+    std::size_t at = 0;
+    for (const Word& word : words) {
+        const long changes = result.changes[at++] = ((*validator).*word.get)();
+        require((changes & ~word.bits) == 0, "a word has its own bits only");
+        domains |= changes ? word.domain : 0;
+    }
+    require_together(validator->get_io_cfg_changes(), 3);           // name and type of the port
+    require_together(validator->get_media_cfg_changes(), 0x1E004);  // the destination and the finishing
     require(validator->get_config_changed() == domains, "a domain's bit for each word");
     require(validator->get_caps_changed() == 0, "capabilities do not change");
     require(result.code != 0 || result.is_changed == (domains != 0), "the result tells of a change");
@@ -112,9 +105,11 @@ void require_equal(const Result& one, const Result& other, const char* what) {
     if (one == other)
         return;
     for (const Result& each : {one, other}) {
-        std::fprintf(stderr, "code %u, words %#lx %#lx %#lx\n", each.code, each.media, each.io, each.rcm);
+        std::fprintf(stderr, "code %u, words", each.code);
+        for (const long changes : each.changes)
+            std::fprintf(stderr, " %#lx", changes);
         for (const std::wstring& domain : each.data)
-            std::fprintf(stderr, "%ls\n", domain.c_str());
+            std::fprintf(stderr, "\n%ls\n", domain.c_str());
     }
     require(false, what);
 }
@@ -122,15 +117,13 @@ void require_equal(const Result& one, const Result& other, const char* what) {
 // Whether every ability of the domain is one of the digits.
 template <class Capabilities>
 bool has_only(const Capabilities& caps, std::wstring_view digits) {
-    const std::wstring_view abilities = caps.get_abilities();
-    return abilities.find_first_not_of(digits) == abilities.npos;
+    if constexpr (requires { caps.get_abilities(); })
+        return std::wstring_view(caps.get_abilities()).find_first_not_of(digits) == std::wstring_view::npos;
+    return true;
 }
 bool has_only(const Device& device, std::wstring_view digits) {
     bool all = true;
-    for_each_domain(device, [&](const auto& caps, const auto&) {
-        if constexpr (requires { caps.get_abilities(); })
-            all = all && has_only(caps, digits);
-    });
+    for_each_domain(device, [&](const auto& caps, const auto&) { all = all && has_only(caps, digits); });
     return all;
 }
 
@@ -148,7 +141,7 @@ std::wstring undefaulted(const Arguments& arguments) {
 // Custom data are validated under every policy.
 void check_kept(Data before, const Result& result) {
     before[custom_domain] = result.data[custom_domain];
-    require(result.data == before && !result.media && !result.io && !result.rcm, "what is kept stays");
+    require(result.data == before && result.changes == Changes(), "what is kept stays");
 }
 
 void check_second_run(const Device& device, const Arguments& arguments, const Result& first) {
@@ -184,23 +177,26 @@ void call_the_rest(Input& input, const Device& device) {
     const auto factory = device->get_class_factory();
     const PX_Smart_Pointer media(factory->MK_Create_Media_Validator(device.get()));
     const PX_Smart_Pointer rcm(factory->MK_Create_ResColorMem_Validator(device.get()));
+    const PX_Smart_Pointer pens(factory->MK_Create_Pen_Validator(device.get()));
     const Number strategy{input.up_to(2)};
     attempt([&] { media->validate_all_media(strategy); });
     attempt([&] { rcm->validate_all_res_color_mem(strategy); });
+    attempt([&] { pens->validate_all_pen(strategy); });
+    using Media = PX_Media_Validator;
     attempt([&] { media->set_size_to_nearest(); });
-    attempt([&] { media->set_type_to_nearest(); });
-    attempt([&] { media->set_source_to_nearest(); });
-    attempt([&] { media->set_source_entry_to_nearest(); });
-    attempt([&] { media->set_destination_to_nearest(); });
+    for (const auto set : {&Media::set_type_to_nearest, &Media::set_source_to_nearest,
+                           &Media::set_source_entry_to_nearest, &Media::set_destination_to_nearest})
+        attempt([&] { ((*media).*set)(); });
 }
 
 void set_up(Input& input, PX_Scripted_Platform& machine) {
     machine.record_calls(false);
     const int ports = input.byte();
-    constexpr const wchar_t* names[] = {L"COM1:", L"COM2:", L"LPT1:", L"FILE:"};
-    for (int each = 0; each < 4; ++each) {
-        if (ports >> each & 1)
-            machine.add_port(names[each]);
+    int bit = 1;
+    for (const wchar_t* const name : {L"COM1:", L"COM2:", L"LPT1:", L"FILE:"}) {
+        if (ports & bit)
+            machine.add_port(name);
+        bit *= 2;
     }
     if (ports & 0x10)
         machine.add_printer({.name = L"queue", .port = L"LPT1:", .driver = L"driver"});
@@ -215,6 +211,8 @@ void set_up(Input& input, PX_Scripted_Platform& machine) {
 }  // namespace
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {
+    static const PX_Std_Raster_Capabilities raster;
+    static const PX_Std_Linetype_Capabilities linetypes;
     Input input(bytes, size);
     // The ports of the machine are looked for once in a process.
     PX_Module_Exit();
@@ -224,6 +222,8 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {
     const Arguments arguments{Number{input.rarely() ? input.number<int>() : input.up_to(1)},
                               Number{input.up_to(6) - 1}, !input.rarely(4)};
     Device device;
+    device->get_plotter_capabilities()->set_raster_capabilities(&raster);
+    device->get_plotter_capabilities()->set_linetype_capabilities(&linetypes);
     device->get_error_handler()->set_quiet_mode(input.flag());
     const auto meta = device->get_meta_capabilities();
     meta->set_driver_type(Number{input.up_to(4) - 1});
@@ -235,12 +235,16 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {
         if (input.rarely())
             cfg.set_validated(true);
     });
+    // A clone does not take the flags of the overwriting along.
     device.rcm_cfg()->set_one_validated(false, PX_ResColorMem_Config_Flags::RCM_Cfg_Lines_Overwrite);
     device.rcm_cfg()->set_one_default(false, PX_ResColorMem_Config_Flags::RCM_Cfg_Lines_Overwrite);
     Device copy;
     copy->get_error_handler()->set_quiet_mode(device->get_error_handler()->get_quiet_mode());
-    copy_domains(device, copy);
+    copy->set_plotter_capabilities(device->get_plotter_capabilities()->clone());
+    copy->set_plotter_configuration(device->get_plotter_configuration()->clone());
+    copy->set_meta_capabilities(meta.get());
     const Data before = all_data(device);
+    const PX_Smart_Pointer pens(device.pen_cfg()->clone());
     require(all_data(copy) == before, "a clone has the same data");
 
     const Result first = run(device, arguments);
@@ -250,6 +254,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {
             check_kept(before, first);
         if (has_only(device, L"05"))
             require(device->get_plotter_configuration()->get_validated(), "all was validated");
+        fuzz::check(*device.pen_caps(), *pens, *device.pen_cfg());
         check_second_run(device, arguments, first);
     }
     if (input.rarely(3))

@@ -79,7 +79,7 @@ TEST_F(Plot_Host_Choice, WhatAnOlderChoiceDoesNotNameIsTheDevicesDefault) {
     const Outcome outcome = open("");
     ASSERT_EQ(outcome.code, 0) << outcome.err;
     expect_in(outcome.out, {"is  8 pens", "Custom \"Drying time\" (Dry), 20: not in the choice",
-                            "Custom \"Fan\", yes: not in the choice", "2 (size 0), 17 (size 2.5)\n",
+                            "Custom \"Fan\", yes: not in the choice", "6 (size 10), 17 (size 2.5)\n",
                             "raster orientation is 3"});
     const Outcome again = run({"--choice", path("saved.json")});
     expect_in(again.out, {"0 of 47 data changed."});

@@ -123,6 +123,15 @@ wait "$reader"
 cmp "$plot" "$work/from_port.plt" && echo "The port got the bytes that the file has."
 
 echo
+echo "=== A choice from an older pen plotter: its pens and settings are repaired; then a chart with every pen"
+chart=$build/pen_chart.plt
+run --device pen-plotter --choice examples/data/old_pens.json --drawing examples/data/pen_chart.svg \
+    --to "file:$chart" >"$work/report"
+grep -v ' kept ' "$work/report" || true
+echo "The pens are taken up in this order:"
+grep -o 'SP[1-9];PW[^;]*;VS[^;]*;FS[^;]*' "$chart"
+
+echo
 echo "=== And as PostScript on the wide-format device"
 plot_to "$device" --to "file:$build/floor_plan.ps"
 first_lines "$build/floor_plan.ps"

@@ -211,6 +211,10 @@ class Plots(unittest.TestCase):
     def on_terminal(self, device, type_at_box):
         pid, terminal = os.forkpty()
         if pid == 0:
+            # Ctrl-C would throw away what has been written and not been read yet.
+            modes = termios.tcgetattr(0)
+            modes[3] |= termios.NOFLSH
+            termios.tcsetattr(0, termios.TCSANOW, modes)
             os.execv(HOST, self.command("--map-port", f"COM1={device}", "--to", "port:COM1"))
         shown, typed, end = b"", False, time.monotonic() + LONGEST
         while time.monotonic() < end:

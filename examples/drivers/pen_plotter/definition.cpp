@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "examples/common/any_source.h"
 #include "examples/common/device.h"
 #include "examples/common/made.h"
 #include "examples/common/own_strings.h"
@@ -39,6 +40,9 @@ class Pen_Plotter_Factory : public PX_Std_Plotter_Class_Factory {
 public:
     PX_InitTerm_Validator* MK_Create_InitTerm_Validator(PX_Plotter_Definition* plotter) const override {
         return new Own_Strings_Validator(plotter, own_strings);
+    }
+    PX_Media_Validator* MK_Create_Media_Validator(PX_Plotter_Definition* plotter) const override {
+        return new Any_Source_Validator(plotter);
     }
     PX_PhysPen_Validator* MK_Create_Pen_Validator(PX_Plotter_Definition* plotter) const override {
         return new Carousel_Validator(plotter);

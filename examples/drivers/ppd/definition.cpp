@@ -3,6 +3,7 @@
 #include <memory>
 #include <utility>
 
+#include "examples/common/any_source.h"
 #include "examples/common/device.h"
 #include "examples/common/made.h"
 #include "examples/common/own_strings.h"
@@ -39,7 +40,7 @@ public:
     explicit Ppd_Class_Factory(std::shared_ptr<const Ppd_File> file) : m_file(std::move(file)) {}
 
     PX_Media_Validator* MK_Create_Media_Validator(PX_Plotter_Definition* plotter) const override {
-        return new Ppd_Media_Validator(plotter);
+        return new Any_Source_Validator(plotter);
     }
     PX_InitTerm_Validator* MK_Create_InitTerm_Validator(PX_Plotter_Definition* plotter) const override {
         return new Own_Strings_Validator(plotter, strings_of(*m_file));

@@ -32,13 +32,3 @@ PX_Smart_Pointer<PX_Media_Capabilities> ppd_media_capabilities(const Ppd_File& f
 
 // The keywords of the options that are told above, finishing with them.
 std::vector<std::string> ppd_media_keywords(const Ppd_File& file);
-
-// Where the device has no source of the feed that the user had, the search ends at the device's default
-// source: a sheet printer's choice opens on a roll and the other way round. All else is standard.
-class Ppd_Media_Validator : public PX_Std_Media_Validator {
-public:
-    // The definition owns the validator and outlives it.
-    explicit Ppd_Media_Validator(PX_Plotter_Definition* plotter) : PX_Std_Media_Validator(plotter) {}
-
-    void set_source_to_nearest() override;
-};

@@ -7,28 +7,32 @@
 PX_PhysPen_Capabilities::~PX_PhysPen_Capabilities() = default;
 
 void PX_Std_PhysPen_Capabilities::set_max_number_of_physical_pens(long number) {
-    px_store_within(m_device.max_number_of_physical_pens, number, number >= 0, 0L, 603,
-                    L"PX_Std_PhysPen_Capabilities::set_max_number_of_physical_pens");
+    px_store_or_repair(m_device.max_number_of_physical_pens, number, number >= 0, 0L, 603,
+                       L"PX_Std_PhysPen_Capabilities::set_max_number_of_physical_pens");
 }
 
 void PX_Std_PhysPen_Capabilities::set_max_pen_width(float width) {
-    px_store_within(m_device.max_pen_width, width, px_is_pen_width(width) && width >= m_device.min_pen_width,
-                    m_device.min_pen_width, 604, L"PX_Std_PhysPen_Capabilities::set_max_pen_width");
+    px_store_or_repair(m_device.max_pen_width, width,
+                       px_is_pen_width(width) && width >= m_device.min_pen_width, m_device.min_pen_width, 604,
+                       L"PX_Std_PhysPen_Capabilities::set_max_pen_width");
 }
 
 void PX_Std_PhysPen_Capabilities::set_min_pen_width(float width) {
-    px_store_within(m_device.min_pen_width, width, px_is_pen_width(width) && width <= m_device.max_pen_width,
-                    px_least_pen_width, 605, L"PX_Std_PhysPen_Capabilities::set_min_pen_width");
+    px_store_or_repair(m_device.min_pen_width, width,
+                       px_is_pen_width(width) && width <= m_device.max_pen_width, px_least_pen_width, 605,
+                       L"PX_Std_PhysPen_Capabilities::set_min_pen_width");
 }
 
 void PX_Std_PhysPen_Capabilities::set_max_pen_speed(float speed) {
-    px_store_within(m_device.max_pen_speed, speed, px_is_pen_speed(speed) && speed >= m_device.min_pen_speed,
-                    m_device.min_pen_speed, 606, L"PX_Std_PhysPen_Capabilities::set_max_pen_speed");
+    px_store_or_repair(m_device.max_pen_speed, speed,
+                       px_is_pen_speed(speed) && speed >= m_device.min_pen_speed, m_device.min_pen_speed, 606,
+                       L"PX_Std_PhysPen_Capabilities::set_max_pen_speed");
 }
 
 void PX_Std_PhysPen_Capabilities::set_min_pen_speed(float speed) {
-    px_store_within(m_device.min_pen_speed, speed, px_is_pen_speed(speed) && speed <= m_device.max_pen_speed,
-                    0.0F, 607, L"PX_Std_PhysPen_Capabilities::set_min_pen_speed");
+    px_store_or_repair(m_device.min_pen_speed, speed,
+                       px_is_pen_speed(speed) && speed <= m_device.max_pen_speed, 0.0F, 607,
+                       L"PX_Std_PhysPen_Capabilities::set_min_pen_speed");
 }
 
 void PX_Std_PhysPen_Capabilities::set_max_pen_optimization(int level) {
@@ -39,21 +43,19 @@ void PX_Std_PhysPen_Capabilities::set_default_num_of_phys_pens(long number) {
     m_device.default_num_of_phys_pens = px_not_negative(number);
 }
 
+// No limit lies below that of all pens, so that a value within them is a width or a speed.
 void PX_Std_PhysPen_Capabilities::set_default_pen_width(float width) {
-    const bool is_within =
-        px_is_pen_width(width) && width >= m_device.min_pen_width && width <= m_device.max_pen_width;
-    m_device.default_pen_width = is_within ? width : m_device.min_pen_width;
+    m_device.default_pen_width =
+        px_within_or(width, m_device.min_pen_width, m_device.max_pen_width, m_device.min_pen_width);
 }
 
 void PX_Std_PhysPen_Capabilities::set_default_pen_speed(float speed) {
-    const bool is_within =
-        px_is_pen_speed(speed) && speed >= m_device.min_pen_speed && speed <= m_device.max_pen_speed;
-    m_device.default_pen_speed = is_within ? speed : m_device.min_pen_speed;
+    m_device.default_pen_speed =
+        px_within_or(speed, m_device.min_pen_speed, m_device.max_pen_speed, m_device.min_pen_speed);
 }
 
 void PX_Std_PhysPen_Capabilities::set_default_pen_optimization(int level) {
-    const bool is_within = level >= 0 && level <= m_device.max_pen_optimization;
-    m_device.default_pen_optimization = is_within ? level : 0;
+    m_device.default_pen_optimization = px_within_or(level, 0, m_device.max_pen_optimization, 0);
 }
 
 PX_PhysPen_Capabilities* PX_Std_PhysPen_Capabilities::clone() const {

@@ -15,8 +15,8 @@ constexpr bool px_is_pen_speed(float speed) {
 
 // Stores a value that its limits accept; else the repaired one, and then throws MVNK_Error.
 template <class Number>
-void px_store_within(Number& field, Number value, bool is_accepted, Number repaired, unsigned int code,
-                     const wchar_t* function) {
+void px_store_or_repair(Number& field, Number value, bool is_accepted, Number repaired, unsigned int code,
+                        const wchar_t* function) {
     field = is_accepted ? value : repaired;
     if (!is_accepted)
         throw MVNK_Error(code, function, nullptr, px_std_phys_pen_cfg_source.file_tag);

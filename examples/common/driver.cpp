@@ -56,11 +56,12 @@ void Plot_Output::tell(std::size_t points) {
 Plot_Result Driver::plot(const PX_Plotter_Definition& device, PX_Smart_Pointer<PX_Error_Handler> handler,
                          const Drawing& drawing, const wchar_t* document, const PX_Plotter_Options& options,
                          const Plot_Progress& progress) const {
+    const Drawing picture = rendered(drawing, options);
+    const Draw draw = prepare(device, picture, options);
     const auto channel = made(device.get_class_factory()->MK_Create_Plotter_IO(handler), L"channel");
     channel->set_document_name(document);
     if (!channel->configure(&device) || !channel->open())
         return {Plot_End::Not_Opened, 0};
-    const Drawing picture = rendered(drawing, options);
     Plot_Output output(*channel, progress, picture.count_points());
     // A channel that was aborted takes nothing, not even nothing.
     const auto was_aborted = [&] { return channel->write("", 0) < 0; };
@@ -76,13 +77,13 @@ Plot_Result Driver::plot(const PX_Plotter_Definition& device, PX_Smart_Pointer<P
         write_string(output, strings->get_preinit_string());
         set_up_job(device, output);
         write_string(output, strings->get_postinit_string());
-        draw(device, picture, options, output);
+        draw(output);
         write_string(output, strings->get_termination_string());
         channel->flush();
     } catch (const Plot_Stopped&) {
         return stop();
     } catch (...) {
-        channel->purge();
+        stop();
         throw;
     }
     if (was_aborted())

@@ -54,7 +54,9 @@ public:
 
     // Sends the drawing to where the device's configuration says, between the init and term strings of the
     // configuration; `options` tell how it is rendered. Failures are asked and told through the handler; what
-    // has stopped leaves a channel that is closed, and nothing of the plot that could be kept back.
+    // has stopped leaves a channel that is closed, and nothing of the plot that could be kept back. Throws
+    // std::runtime_error, one line for the user, for a drawing that cannot be plotted so; then nothing was
+    // opened, and what lies where the plot was to go is as it was.
     Plot_Result plot(const PX_Plotter_Definition& device, PX_Smart_Pointer<PX_Error_Handler> handler,
                      const Drawing& drawing, const wchar_t* document, const PX_Plotter_Options& options,
                      const Plot_Progress& progress) const;
@@ -63,7 +65,10 @@ protected:
     // Commands of job control for this job, between the string that begins it and the one that enters the
     // language of the device.
     virtual void set_up_job(const PX_Plotter_Definition&, Plot_Output&) const {}
-    // The drawing in the language of the device. Its circles are those that the options leave to the device.
-    virtual void draw(const PX_Plotter_Definition& device, const Drawing& drawing,
-                      const PX_Plotter_Options& options, Plot_Output& output) const = 0;
+    // Writes a drawing in the language of its device.
+    using Draw = std::function<void(Plot_Output&)>;
+    // Asked before anything is opened: throws what plot() throws for a drawing that cannot be plotted. Its
+    // circles are those that the options leave to the device. The arguments outlive what is returned.
+    virtual Draw prepare(const PX_Plotter_Definition& device, const Drawing& drawing,
+                         const PX_Plotter_Options& options) const = 0;
 };

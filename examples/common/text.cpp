@@ -1,6 +1,7 @@
 #include "examples/common/text.h"
 
 #include <array>
+#include <charconv>
 #include <cstddef>
 
 namespace text {
@@ -79,6 +80,12 @@ std::string on_one_line(std::string_view bytes) {
         bytes.remove_prefix(next.length);
     }
     return line;
+}
+
+std::string shortest(float number) {
+    std::array<char, 32> digits{};
+    const auto end = std::to_chars(digits.begin(), digits.end(), number).ptr;
+    return {digits.begin(), end};
 }
 
 }  // namespace text

@@ -14,4 +14,7 @@ std::string to_utf8(std::wstring_view wide);
 // the ends.
 std::string on_one_line(std::string_view bytes);
 
+// The shortest digits that stand for the very number, in no language of the user's.
+std::string shortest(float number);
+
 }  // namespace text

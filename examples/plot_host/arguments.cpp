@@ -3,7 +3,6 @@
 #include <CLI/CLI.hpp>
 #include <charconv>
 #include <filesystem>
-#include <map>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -32,15 +31,25 @@ constexpr Word<Policy::Enum> policies[] = {
     {"reset", Policy::Reset_Conditional},
 };
 
+constexpr Word<Pick_List> pick_lists[] = {
+    {"resolutions", Pick_List::Resolutions},
+    {"colours", Pick_List::Colors},
+};
+
 template <class Value, std::size_t count>
-void add_choice_of(CLI::App& app, const char* option, const Word<Value> (&words)[count], Value& value,
-                   const char* description) {
+CLI::Validator one_of(const Word<Value> (&words)[count]) {
     std::vector<std::string> allowed;
     for (const auto& word : words)
         allowed.emplace_back(word.word);
+    return CLI::IsMember(allowed);
+}
+
+template <class Value, std::size_t count>
+void add_choice_of(CLI::App& app, const char* option, const Word<Value> (&words)[count], Value& value,
+                   const char* description) {
     const auto store = [&](const std::string& word) { value = value_in(words, word).value(); };
     app.add_option_function<std::string>(option, store, description)
-        ->check(CLI::IsMember(allowed))
+        ->check(one_of(words))
         ->default_str(word_in(words, value));
 }
 
@@ -116,7 +125,9 @@ std::optional<Arguments> parse_arguments(int count, const char* const* words, st
     app.add_option("--picture", arguments.picture,
                    "where to draw the sheet before and after, as an SVG picture")
         ->type_name("FILE");
-    add_choice_of(app, "--strategy", strategies, arguments.strategy, "where a datum goes that does not fit");
+    add_choice_of(
+        app, "--strategy", strategies, arguments.strategy,
+        "where a datum goes that does not fit; custom data know no nearest, they go to their default");
     add_choice_of(app, "--policy", policies, arguments.policy, "how much of the choice is looked at");
     app.add_flag("--fixed-settables", arguments.fixed_settables,
                  "put the data that the user may set to their defaults instead of validating them");
@@ -125,7 +136,8 @@ std::optional<Arguments> parse_arguments(int count, const char* const* words, st
     };
     auto* const to = add_words("--to", "WHERE", "send a plot to file:PATH, port:NAME or queue:NAME",
                                [&](const std::string& words) { arguments.to = destination_of(words); });
-    auto* const drawing = app.add_option("--drawing", arguments.drawing, "SVG drawing of lines to plot");
+    auto* const drawing =
+        app.add_option("--drawing", arguments.drawing, "SVG drawing of lines and circles to plot");
     drawing->type_name("FILE")->needs(to);
     to->needs(drawing);
     app.add_flag("--any-destination", arguments.any_destination,
@@ -144,10 +156,14 @@ std::optional<Arguments> parse_arguments(int count, const char* const* words, st
         ->type_name("NAME=DEVICE");
     add_words("--print-server", "HOST:PORT", "where the queues are, if not on the usual server",
               [&](const std::string& words) { arguments.print_server = print_server_of(words); });
-    app.add_option("--list", arguments.lists, "show what there is to choose from: resolutions, colours")
-        ->type_name("LIST")
-        ->transform(CLI::CheckedTransformer(std::map<std::string, Pick_List>{
-            {"resolutions", Pick_List::Resolutions}, {"colours", Pick_List::Colors}}));
+    app.add_option_function<std::vector<std::string>>(
+           "--list",
+           [&](const std::vector<std::string>& lists) {
+               for (const std::string& list : lists)
+                   arguments.lists.push_back(value_in(pick_lists, list).value());
+           },
+           "show what there is to choose from")
+        ->check(one_of(pick_lists));
     app.add_option("--log", arguments.log, "file that failures are written to")->type_name("FILE");
     try {
         app.parse(count, words);

@@ -1,18 +1,12 @@
 #pragma once
 
-#include <string>
-#include <vector>
-
 #include "toolkit/marvcon/marvcon.h"
 
 namespace plot_host {
 
-// What the device calls the setting of that canonical name, with that name in parentheses where it differs.
-std::string title_of_setting(const PX_Plotter_Capabilities& capabilities, const wchar_t* name);
-
-// Makes the custom items of a choice ready for the validator, which fails over an item that the device has no
-// setting for: such items go. Returns a line for each of them, and for each item that is still the default
-// that it was before the choice was read.
-std::vector<std::string> fit_custom_items(const PX_Plotter_Definition& device);
+// Makes the custom items of a choice those of the device, in its order. An item that the device has no
+// setting for goes, for the validator fails over it; a setting that the choice does not name comes at its
+// default. The values of the others are still to be validated.
+void fit_custom_items(const PX_Plotter_Definition& device);
 
 }  // namespace plot_host

@@ -6,7 +6,6 @@
 #include <stdexcept>
 #include <string>
 #include <system_error>
-#include <vector>
 
 #include "examples/common/text.h"
 #include "examples/plot_host/arguments.h"
@@ -96,26 +95,23 @@ void reconcile(const Arguments& arguments, PX_Plotter_Definition& device, std::o
     } else {
         // What an older choice does not speak of.
         validator->set_selected_to_defaults(PX_Domain_Mask::IO | PX_Domain_Mask::Res_Color_Mem |
-                                            PX_Domain_Mask::Phys_Pens | PX_Domain_Mask::Custom);
+                                            PX_Domain_Mask::Phys_Pens);
         made_on = load_choice(arguments.choice, *configuration);
     }
     if (arguments.to)
         choose_destination(device, *arguments.to);
 
     const Snapshot before = take_snapshot(*configuration);
-    std::vector<std::string> told;
     if (made_on)
-        told = fit_custom_items(device);
+        fit_custom_items(device);
     const Sheet sheet_before =
         take_sheet(*configuration, "Before: " + shown(made_on ? *made_on : identity_of(device)));
     const bool answer =
         validator->validate_all(arguments.strategy, arguments.policy, !arguments.fixed_settables);
     print_heading(out, device, made_on, arguments);
     print_data(out, device, before);
-    for (const std::string& line : told)
-        out << line << '\n';
     print_answer(out, *validator, answer);
-    print_fixed(out, device);
+    print_unchosen(out, device);
     for (const Pick_List list : arguments.lists) {
         out << '\n';
         list == Pick_List::Resolutions ? print_resolutions(out, device) : print_colors(out, device);

@@ -23,10 +23,10 @@ std::vector<Datum> all_data(const PX_Plotter_Configuration& configuration) {
     return all;
 }
 
-// What it was; nothing for a datum that was not there.
-Words former(const Snapshot& before, const std::string& name) {
+// What it was; null for a datum that was not there.
+const Value* former(const Snapshot& before, const std::string& name) {
     const auto found = std::ranges::find(before, name, &Value::name);
-    return found == before.end() ? Words{"", "(none)"} : Words{found->exact, found->shown};
+    return found == before.end() ? nullptr : &*found;
 }
 
 using Ability = PX_Ability_Value;
@@ -56,16 +56,20 @@ void add_rows(std::vector<Row>& rows, Row row, const char* when, const std::stri
         rows.push_back({"", "", "", "", "", "", "      " + line});
 }
 
+std::size_t width_of(const std::string& utf8) {
+    return text::from_utf8(utf8).size();
+}
+
 // The last column may be as wide as it likes.
 void print_table(std::ostream& out, const std::vector<Row>& rows) {
     std::array<std::size_t, std::tuple_size_v<Row>> widths{};
     for (const Row& row : rows) {
         for (std::size_t column = 0; column < row.size(); ++column)
-            widths[column] = std::max(widths[column], row[column].size());
+            widths[column] = std::max(widths[column], width_of(row[column]));
     }
     for (const Row& row : rows) {
         for (std::size_t column = 0; column + 1 < row.size(); ++column)
-            out << std::left << std::setw(static_cast<int>(widths[column] + 2)) << row[column];
+            out << row[column] << std::string(widths[column] + 2 - width_of(row[column]), ' ');
         out << row.back() << '\n';
     }
 }
@@ -154,24 +158,28 @@ void print_data(std::ostream& out, const PX_Plotter_Definition& device, const Sn
     std::vector<Row> rows = {{"Datum", "Ability", "Outcome", "Change bit", "Validated", "Default", "Value"}};
     int changed = 0;
     int silent = 0;
+    int appeared = 0;
     for (const Datum& datum : data) {
         const State state = datum.state(*capabilities, *configuration);
-        const Words was = former(before, datum.name);
+        const Value* const was = former(before, datum.name);
         const Value now = datum.value(*configuration);
-        const bool differs = was.exact != now.exact;
+        const bool differs = was && was->exact != now.exact;
         const bool raised = datum.is_raised(*validator);
         add_rows(rows,
                  {datum.title ? datum.title(*capabilities) : datum.name,
                   state.ability ? word_in(abilities, *state.ability, "undefined") : "custom",
-                  differs ? "changed" : "kept", raised ? "raised" : "none", yes_or_no(state.validated),
-                  yes_or_no(state.is_default)},
-                 differs ? "was " : "is  ", was.shown);
+                  !was      ? "new"
+                  : differs ? "changed"
+                            : "kept",
+                  raised ? "raised" : "none", yes_or_no(state.validated), yes_or_no(state.is_default)},
+                 differs ? "was " : "is  ", (was ? *was : now).shown);
         if (differs)
             add_rows(rows, {}, "now ", now.shown);
         changed += differs;
         silent += differs && !raised;
+        appeared += !was;
     }
-    std::size_t gone = 0;
+    int gone = 0;
     for (const Value& was : before) {
         if (std::ranges::find(data, was.name, &Datum::name) == data.end()) {
             add_rows(rows, {text::on_one_line(was.name), "", "gone"}, "was ", was.shown);
@@ -182,8 +190,10 @@ void print_data(std::ostream& out, const PX_Plotter_Definition& device, const Sn
     out << '\n' << changed << " of " << data.size() << " data changed";
     if (silent > 0)
         out << ", " << silent << " of them without a change bit";
-    if (gone > 0)
-        out << "; " << gone << " gone";
+    for (const auto& [count, word] : {std::pair(appeared, " new"), {gone, " gone"}}) {
+        if (count > 0)
+            out << "; " << count << word;
+    }
     out << ".\n";
     // It stands beside the bit of the size, and no datum is its own.
     constexpr long no_size_near_enough = 0x40000;

@@ -20,12 +20,13 @@ using Snapshot = std::vector<Value>;
 
 Snapshot take_snapshot(const PX_Plotter_Configuration& configuration);
 
-// What has become of each datum since `before`, a row a datum, with those that are there no more at the end.
+// What has become of each datum since `before`, a row a datum: kept, changed, or new where it was not there,
+// and at the end those that are gone.
 // Whether a value changed is seen from the values themselves: not every datum has a change bit.
 void print_data(std::ostream& out, const PX_Plotter_Definition& device, const Snapshot& before);
 
 // What the device has of what nobody chooses: its line patterns and how it wants its raster.
-void print_fixed(std::ostream& out, const PX_Plotter_Definition& device);
+void print_unchosen(std::ostream& out, const PX_Plotter_Definition& device);
 
 // What the plotter validator says of its last run; `answer` is that of validate_all.
 void print_answer(std::ostream& out, const PX_Plotter_Validator& validator, bool answer);

@@ -1,9 +1,19 @@
+#include <cwchar>
+
 #include "examples/common/text.h"
-#include "examples/plot_host/custom_items.h"
 #include "examples/plot_host/report_data.h"
 
 namespace plot_host {
 namespace {
+
+// What the device calls the setting of that canonical name, with that name in parentheses where it differs.
+std::string title_of_setting(const PX_Plotter_Capabilities& capabilities, const wchar_t* name) {
+    const auto setting = capabilities.get_custom_capabilities()->get_custom(name);
+    const wchar_t* const shown = px_is_there(setting) ? setting->get_localized_name() : L"";
+    if (*shown == L'\0' || std::wcscmp(shown, name) == 0)
+        return quoted(name);
+    return quoted(shown) + " (" + text::on_one_line(text::to_utf8(name)) + ")";
+}
 
 // The item of that name in the configuration at hand, which is not the one that the row was made from.
 Datum custom_row(const std::wstring& item_name) {

@@ -7,7 +7,7 @@
 #include <type_traits>
 #include <vector>
 
-#include "examples/plot_host/custom_values.h"
+#include "examples/common/custom_values.h"
 #include "examples/plot_host/report.h"
 
 // The rows of the report, a file for each domain.

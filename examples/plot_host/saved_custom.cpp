@@ -1,4 +1,4 @@
-#include "examples/plot_host/custom_values.h"
+#include "examples/common/custom_values.h"
 #include "examples/plot_host/saved_rows.h"
 #include "examples/plot_host/words.h"
 
@@ -78,30 +78,15 @@ PX_Smart_Pointer<PX_Custom_Config_Item> read_item(const Field& field) {
     return item;
 }
 
-using Items = PX_Named_Object_List<PX_Custom_Config_Item>;
-
 void read(const Field& field, const PX_Plotter_Configuration& into) {
-    const auto custom = into.get_custom_configuration();
-    Items named;
+    PX_Named_Object_List<PX_Custom_Config_Item> named;
     for (const Field& element : field.elements()) {
         const auto item = read_item(element);
         if (named.find(item->get_canonical_name()))
             element.reject("gives '" + text::to_utf8(item->get_canonical_name()) + "' a second time");
         named.append(item);
     }
-    // Each in the place of the item that was there, and behind them what is new.
-    Items all;
-    if (const auto there = custom->get_custom_list()) {
-        for (const auto& item : *there) {
-            const auto instead = item ? named.find(item->get_canonical_name()) : nullptr;
-            all.append(instead ? instead : item);
-            if (instead)
-                named.remove(instead.get());
-        }
-    }
-    for (const auto& item : named)
-        all.append(item);
-    custom->set_custom_list(&all);
+    into.get_custom_configuration()->set_custom_list(&named);
 }
 
 }  // namespace

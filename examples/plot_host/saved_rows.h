@@ -1,6 +1,5 @@
 #pragma once
 
-#include <array>
 #include <charconv>
 #include <type_traits>
 #include <utility>
@@ -20,12 +19,11 @@ struct Row {
     void (*read)(const Field&, Owner&);
 };
 
-// The shortest digits that stand for the very number.
+// No more digits than the number has.
 inline json as_json(float number) {
-    std::array<char, 32> digits{};
-    const auto end = std::to_chars(digits.begin(), digits.end(), number).ptr;
+    const std::string digits = text::shortest(number);
     double shortest = number;
-    std::from_chars(digits.data(), end, shortest);
+    std::from_chars(digits.data(), digits.data() + digits.size(), shortest);
     return shortest;
 }
 inline json as_json(const wchar_t* text) {

@@ -155,6 +155,15 @@ TEST_F(Plots, PenPlotterDrawsWithThePensOfTheChoice) {
                           pen->set_pen_width(1);
                       }),
               "180");
+    const auto none = device(m_pens, pen_plotter_name, "file:" + std::string(m_folder / "plot"),
+                             [](PX_Plotter_Configuration& configuration) {
+                                 configuration.get_phys_pen_configuration()->get_physical_pen_list()->clear();
+                             });
+    const auto size = fs::file_size(m_folder / "plot");
+    EXPECT_THROW(m_pens.plot(*none, new Scripted_Handler({}), wide, L"plot", m_options,
+                             [](std::size_t, std::size_t) { return true; }),
+                 std::runtime_error);
+    EXPECT_EQ(fs::file_size(m_folder / "plot"), size) << "what cannot be drawn leaves the file of before";
 }
 
 // What a drawing has beside plain lines, by the options of the renderer and the settings of the choice.

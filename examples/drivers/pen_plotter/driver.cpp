@@ -1,16 +1,14 @@
 #include "examples/drivers/pen_plotter/driver.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cmath>
-#include <initializer_list>
-#include <iterator>
 #include <stdexcept>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "examples/common/placement.h"
+#include "examples/common/text.h"
 #include "examples/drivers/pen_plotter/definition.h"
 #include "examples/drivers/pen_plotter/linetypes.h"
 #include "examples/drivers/pen_plotter/pens.h"
@@ -34,12 +32,6 @@ std::string steps(double points) {
 
 std::string position(Drawing_Point point) {
     return steps(point.x) + ',' + steps(point.y);
-}
-
-std::string number(float value) {
-    char text[32];
-    const auto end = std::to_chars(text, std::end(text), value).ptr;
-    return {text, end};
 }
 
 // The plot of one drawing: what the plotter holds, and what it has been told.
@@ -75,9 +67,9 @@ private:
         if (stroke.place == std::exchange(m_held, stroke.place))
             return;
         const std::string place = std::to_string(stroke.place);
-        m_output.write("PU;SP" + place + ";PW" + number(stroke.pen->get_pen_width()) + "," + place + ";VS" +
-                       number(stroke.pen->get_pen_speed()) + "," + place + ";FS" + std::to_string(m_force) +
-                       "," + place + ";\n");
+        m_output.write("PU;SP" + place + ";PW" + text::shortest(stroke.pen->get_pen_width()) + "," + place +
+                       ";VS" + text::shortest(stroke.pen->get_pen_speed()) + "," + place + ";FS" +
+                       std::to_string(m_force) + "," + place + ";\n");
     }
 
     void set_linetype(int linetype) {
@@ -86,7 +78,7 @@ private:
         const auto pattern = static_cast<PX_Line_Pattern::Enum>(linetype);
         m_output.write(linetype == 0 ? "LT;\n"
                                      : "LT" + std::to_string(linetype) + "," +
-                                           number(m_linetypes->get_linefont_size(pattern)) + ",1;\n");
+                                           text::shortest(m_linetypes->get_linefont_size(pattern)) + ",1;\n");
     }
 
     // An instruction stays short: it has to fit into the plotter's own buffer.
@@ -141,8 +133,8 @@ PX_Smart_Pointer<PX_Plotter_Definition> Pen_Plotter_Driver::open(
     return open_pen_plotter(device, std::move(handler));
 }
 
-void Pen_Plotter_Driver::draw(const PX_Plotter_Definition& device, const Drawing& drawing,
-                              const PX_Plotter_Options& options, Plot_Output& output) const {
+Driver::Draw Pen_Plotter_Driver::prepare(const PX_Plotter_Definition& device, const Drawing& drawing,
+                                         const PX_Plotter_Options& options) const {
     const Placement place(drawing, device);
     const auto pens = device.get_plotter_configuration()->get_phys_pen_configuration();
     std::vector<Stroke> strokes;
@@ -155,8 +147,10 @@ void Pen_Plotter_Driver::draw(const PX_Plotter_Definition& device, const Drawing
     if (pens->get_pen_optimization() > 0)
         std::ranges::stable_sort(strokes, {}, &Stroke::place);
 
-    Pen_Plot plot(device, place, options, output);
-    for (const Stroke& stroke : strokes)
-        plot.draw(stroke);
-    plot.finish();
+    return [&device, &options, place, strokes](Plot_Output& output) {
+        Pen_Plot plot(device, place, options, output);
+        for (const Stroke& stroke : strokes)
+            plot.draw(stroke);
+        plot.finish();
+    };
 }

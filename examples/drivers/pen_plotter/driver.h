@@ -14,6 +14,6 @@ protected:
     // With the pens and the settings of the choice, in the line patterns of the plotter. From the
     // optimization level 1 the lines of a pen come together, in the order of the pens; at 0 as they are
     // drawn.
-    void draw(const PX_Plotter_Definition& device, const Drawing& drawing, const PX_Plotter_Options& options,
-              Plot_Output& output) const override;
+    Draw prepare(const PX_Plotter_Definition& device, const Drawing& drawing,
+                 const PX_Plotter_Options& options) const override;
 };

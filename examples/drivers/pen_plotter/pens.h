@@ -20,7 +20,7 @@ protected:
                               PX_Smart_Pointer<PX_PhysPen_Configuration> configuration) override;
 };
 
-// The place in the carousel of a pen; 0 for one whose name is no place.
+// The place in the carousel of a pen: the number that its name begins with, 0 for a name without one.
 long place_of(const PX_Pen& pen);
 
 // The pen whose colour comes nearest, and of several the one whose width does; null when there is none.

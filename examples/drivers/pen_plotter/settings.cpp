@@ -2,8 +2,11 @@
 
 #include <algorithm>
 #include <iterator>
-#include <string_view>
+#include <string>
+#include <vector>
 
+#include "examples/common/custom_values.h"
+#include "examples/common/listed_setting.h"
 #include "examples/common/made.h"
 
 namespace {
@@ -33,30 +36,20 @@ PX_Smart_Pointer<PX_Custom_Capability> force_setting(const PX_Plotter_Class_Fact
 }
 
 PX_Smart_Pointer<PX_Custom_Capability> ends_setting(const PX_Plotter_Class_Factory& factory) {
-    auto setting = made_named(factory.MK_Create_Custom_Capability(), L"ends", ends, L"Line ends");
-    setting->set_data_type(PX_Data_Type::Data_String);
-    const auto values = made(factory.MK_Create_Custom_Capability_Value_List(), L"values");
-    for (const Ends& one : all_ends) {
-        const auto value = made(factory.MK_Create_Custom_Capability_Value(), L"value");
-        const PX_Std_String_Custom_Data name(one.name);
-        value->set_data_value(&name);
-        values->append(value);
-    }
-    setting->set_num_values(std::ssize(all_ends));
-    setting->set_value_list(values.get());
-    const PX_Std_String_Custom_Data name(default_ends.name);
-    setting->set_default_data_value(&name);
-    return setting;
+    std::vector<std::wstring> names;
+    for (const Ends& one : all_ends)
+        names.emplace_back(one.name);
+    return listed_setting(factory, ends, L"Line ends", names, default_ends.name);
 }
 
-// Null where the configuration has no value of that class.
-template <class Data>
-PX_Smart_Pointer<PX_Custom_Data> value_of(const PX_Plotter_Configuration& configuration,
-                                          const wchar_t* name) {
+// The default where the configuration has no value of that kind.
+template <class Kind>
+Kind chosen(const PX_Plotter_Configuration& configuration, const wchar_t* name, const Kind& otherwise) {
     const auto settings = configuration.get_custom_configuration();
     const auto item = settings ? settings->get_custom(name) : nullptr;
-    auto value = item ? item->get_config_value() : nullptr;
-    return dynamic_cast<Data*>(value.get()) ? value : nullptr;
+    const Custom_Value value = item ? value_of(*item) : Custom_Value();
+    const Kind* const found = std::get_if<Kind>(&value);
+    return found ? *found : otherwise;
 }
 
 }  // namespace
@@ -70,14 +63,11 @@ PX_Smart_Pointer<PX_Custom_Capabilities> pen_plotter_settings(const PX_Plotter_C
 }
 
 long pen_force(const PX_Plotter_Configuration& configuration) {
-    const auto value = value_of<PX_Long_Custom_Data>(configuration, force);
-    return value ? static_cast<const PX_Long_Custom_Data&>(*value).data() : default_force;
+    return chosen(configuration, force, default_force);
 }
 
 int line_ends(const PX_Plotter_Configuration& configuration) {
-    const auto value = value_of<PX_String_Custom_Data>(configuration, ends);
-    const std::wstring_view name =
-        value ? static_cast<const PX_String_Custom_Data&>(*value).data() : default_ends.name;
+    const auto name = chosen<std::wstring>(configuration, ends, default_ends.name);
     const auto found = std::ranges::find(all_ends, name, &Ends::name);
     return found == std::end(all_ends) ? default_ends.number : found->number;
 }

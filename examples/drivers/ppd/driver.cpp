@@ -105,11 +105,13 @@ void Ppd_Driver::set_up_job(const PX_Plotter_Definition& device, Plot_Output& ou
     output.write(ppd_settings_code(ppd_file_of(device), device, Ppd_Section::Job_Control));
 }
 
-void Ppd_Driver::draw(const PX_Plotter_Definition& device, const Drawing& drawing,
-                      const PX_Plotter_Options& options, Plot_Output& output) const {
+Driver::Draw Ppd_Driver::prepare(const PX_Plotter_Definition& device, const Drawing& drawing,
+                                 const PX_Plotter_Options& options) const {
     const Placement place(drawing, device);
-    output.write(beginning(device, place));
-    for (const Drawing_Line& line : drawing.lines)
-        stroke(line, place, options, output);
-    output.write("showpage\n%%Trailer\n%%EOF\n");
+    return [&device, &drawing, &options, place](Plot_Output& output) {
+        output.write(beginning(device, place));
+        for (const Drawing_Line& line : drawing.lines)
+            stroke(line, place, options, output);
+        output.write("showpage\n%%Trailer\n%%EOF\n");
+    };
 }

@@ -11,6 +11,6 @@ public:
 protected:
     void set_up_job(const PX_Plotter_Definition& device, Plot_Output& output) const override;
     // One page of PostScript, the chosen settings of the device before it.
-    void draw(const PX_Plotter_Definition& device, const Drawing& drawing, const PX_Plotter_Options& options,
-              Plot_Output& output) const override;
+    Draw prepare(const PX_Plotter_Definition& device, const Drawing& drawing,
+                 const PX_Plotter_Options& options) const override;
 };

@@ -8,10 +8,9 @@
 // The options of the description that no other domain of the device tells of, a setting each: named by its
 // keyword, its values the names of its choices, in the order of the file, its default that of the file.
 //
-// - Which options are told elsewhere, every part of the driver says for itself (ppd_xxx_keywords), so that
-// none
-//   is in two places. What an option has besides the choices that a domain takes, such as job storage under
-//   the keyword of collating, is not to be had.
+// - Which options are told elsewhere, every part of the driver says for itself (ppd_xxx_keywords): none is in
+//   two places. What an option has besides the choices that a domain takes, such as job storage under the
+//   keyword of collating, is not to be had.
 // - What is installed is no choice of a plot: it stays as the description has it.
 // - Values of the user's own (CustomXxx) are no choices here. An option with one choice leaves none.
 // - Constraints between settings are not looked at.

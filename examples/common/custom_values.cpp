@@ -1,6 +1,4 @@
-#include "examples/plot_host/custom_values.h"
-
-namespace plot_host {
+#include "examples/common/custom_values.h"
 
 Custom_Value value_of(const PX_Custom_Config_Item& item) {
     const auto value = item.get_config_value();
@@ -17,5 +15,3 @@ Custom_Value value_of(const PX_Custom_Config_Item& item) {
         return PX_Dev_String(raw->data(), raw->size());
     return {};
 }
-
-}  // namespace plot_host

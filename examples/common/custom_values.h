@@ -5,8 +5,6 @@
 
 #include "toolkit/marvcon/marvcon.h"
 
-namespace plot_host {
-
 // The value of a custom item, out of its class; the first for an item without one.
 using Custom_Value = std::variant<std::monostate, std::wstring, long, double, bool, PX_Dev_String>;
 
@@ -19,5 +17,3 @@ struct By_Kind : Functions... {
 };
 template <class... Functions>
 By_Kind(Functions...) -> By_Kind<Functions...>;
-
-}  // namespace plot_host

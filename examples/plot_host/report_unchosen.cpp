@@ -20,7 +20,7 @@ std::string patterns_of(const PX_Linetype_Capabilities& lines) {
 
 }  // namespace
 
-void print_fixed(std::ostream& out, const PX_Plotter_Definition& device) {
+void print_unchosen(std::ostream& out, const PX_Plotter_Definition& device) {
     const auto capabilities = device.get_plotter_capabilities();
     const auto lines = capabilities->get_linetype_capabilities();
     const auto raster = capabilities->get_raster_capabilities();

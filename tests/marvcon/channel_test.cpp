@@ -27,7 +27,6 @@ void add_hall(Plot_Job& job) {
 
 TEST(Channel, BeginsUnconfigured) {
     Plot_Job job;
-    EXPECT_STREQ(job.io->get_document_name(), L"Drawing");
     EXPECT_TRUE(job.io->get_io_buffering() && job.io->get_handle_ari_for_drv());
     EXPECT_EQ(job.io->get_buffer_size(), 4096);
     EXPECT_FALSE(job.io->get_spooling());
@@ -38,43 +37,36 @@ TEST(Channel, BeginsUnconfigured) {
     EXPECT_TRUE(job.io->flush() && job.io->close());
     job.io->purge();
     EXPECT_EQ(job.calls(), L"");
+}
 
+TEST(Channel, NamesItsDocument) {
+    Plot_Job job;
+    EXPECT_STREQ(job.io->get_document_name(), L"Drawing");
     PX_Document_Info info = {L"Plan", L"house.dwg", 12};
     job.io->set_document_info(&info);
-    EXPECT_STREQ(job.io->get_document_name(), L"Plan house.dwg (12)");
     job.io->set_document_info(nullptr);
     EXPECT_STREQ(job.io->get_document_name(), L"Plan house.dwg (12)");
     job.io->set_document_name(nullptr);
     EXPECT_STREQ(job.io->get_document_name(), L"");
-
     job.machine.install_module(L"mvnres11.dll", {{1111, std::wstring(100, L'n')}});
     job.renew();
     EXPECT_EQ(job.io->get_document_name(), std::wstring(80, L'n'));
     job.machine.install_module(L"mvnres11.dll", {});
     job.renew();
     EXPECT_STREQ(job.io->get_document_name(), L"Orvane Drawing");
-    const support::Out_Of_Memory none;
-    job.renew();
-    EXPECT_FALSE(job.io);
 }
 
 TEST(Channel, NeedsAMethodForAPortUnlessAllPortsAreValid) {
     const struct {
         PX_IO_Type::Enum type;
-        bool has_method, all_valid, configured;
+        bool all_valid, configured;
     } rows[] = {
-        {serial, true, false, true},   {serial, false, false, false},
-        {serial, false, true, true},   {parallel, true, false, true},
-        {parallel, false, true, true}, {parallel, false, false, false},
-        {network, false, false, true}, {PX_IO_Type::File, false, false, true},
-    };
+        {serial, false, false}, {serial, true, true}, {parallel, false, false}, {network, false, true}};
     for (const auto& row : rows) {
         Plot_Job job(row.type);
         EXPECT_TRUE(job.io->configure(job.device.get()));
         PX_Object_List<PX_IO_Method> methods;
-        PX_Smart_Pointer<PX_IO_Method> method = new PX_Std_IO_Method;
-        method->set_type(row.has_method ? row.type : PX_IO_Type::Driver_Plain);
-        methods.append(method);
+        methods.append(new PX_Std_IO_Method);
         job.device.io_caps()->set_method_list(&methods);
         job.cfg()->set_all_system_ports_valid(row.all_valid);
         EXPECT_EQ(job.io->configure(job.device.get()), row.configured) << row.type;
@@ -142,7 +134,6 @@ TEST(Channel, GoesWhereTheConfigurationSays) {
         const wchar_t* redirected;
         std::wstring opened, written, closed;
     } rows[] = {
-        {PX_IO_Type::File, L"COM1", true, L"", created, L"WriteFile COM1 3;", L"CloseHandle COM1;"},
         {serial, L"COM1", true, L"Hall", created, L"WriteFile COM1 3;", L"CloseHandle COM1;"},
         {network, L"COM1", true, L"Hall", created, L"WriteFile COM1 3;", L"CloseHandle COM1;"},
         {serial, L"COM1", false, L"", asks + sets_up, L"WriteFile COM1 3;",
@@ -155,11 +146,8 @@ TEST(Channel, GoesWhereTheConfigurationSays) {
          L"WriteFile LPT1 3;", L"SetCommTimeouts LPT1 read 0 0 0 write 0 0; CloseHandle LPT1;"},
         {serial, L"COM1", false, L"Hall", L"WNetGetConnectionW COM1 260; " + spools, L"WritePrinter Hall 3;",
          ends},
-        {parallel, L"LPT1", false, L"Hall", L"WNetGetConnectionW LPT1 260; " + spools,
-         L"WritePrinter Hall 3;", ends},
         {network, L"COM1", false, L"", spools, L"WritePrinter Hall 3;", ends},
         {PX_IO_Type::File, L"COM1", false, L"Hall", L"", L"", L""},
-        {PX_IO_Type::Driver_System, L"COM1", false, L"Hall", L"", L"", L""},
         {PX_IO_Type::No_IO_Type, L"COM1", false, L"Hall", L"", L"", L""},
     };
     for (const auto& row : rows) {
@@ -224,20 +212,13 @@ TEST(SerialLine, GetsItsHandshakeBitByBit) {
         {0x2, out, 0x100},
         {0x4, out, 0x4},
         {0x400, out, 0x48},
-        {0x800, out, 0},
-        {0x8, out | 0x3000, 0},
-        {0x10, out | 0x3000, 0x1000},
-        {0x20, out | 0x3000, 0x2000},
         {0x40, out | 0x3000, 0x3000},
         {0x78, out | 0x3000, 0},
         {0x70, out | 0x3000, 0x1000},
         {0x60, out | 0x3000, 0x2000},
-        {0x80, out | 0x30, 0},
-        {0x100, out | 0x30, 0x10},
         {0x200, out | 0x30, 0x20},
         {0x380, out | 0x30, 0},
         {0x300, out | 0x30, 0x10},
-        {0x527, out | 0x3030, 0x235C | 0x100 | 0x200},
     };
     for (const auto& row : rows) {
         for (const int fill : {0x00, 0xFF}) {
@@ -287,38 +268,28 @@ TEST(LocalPort, GetsItsTimeoutsAndHasItsOwnBackAtTheEnd) {
     const COMMTIMEOUTS before = {1, 2, 3, 4, 5};
     const struct {
         PX_IO_Type::Enum type;
+        const wchar_t* port;
         long output;
-        const char* fault;
-        COMMTIMEOUTS during, after;
-    } rows[] = {
-        {serial, 750, "", {0, 0, 250, 0, 750}, before},
-        {serial, 0, "", {0, 0, 250, 0, 3600000}, before},
-        {parallel, 750, "", {1, 2, 3, 0, 750}, before},
-        {parallel, 0, "", {1, 2, 3, 0, 3600000}, before},
-        {serial, 750, "GetCommTimeouts", {0, 0, 250, 0, 750}, {0, 0, 250, 0, 750}},
-        {serial, 750, "SetCommTimeouts", before, before},
-    };
+        COMMTIMEOUTS during;
+    } rows[] = {{serial, L"COM1", 750, {0, 0, 250, 0, 750}}, {parallel, L"LPT1", 0, {1, 2, 3, 0, 3600000}}};
     for (const auto& row : rows) {
-        SCOPED_TRACE(testing::Message() << row.type << ' ' << row.output << ' ' << row.fault);
-        const wchar_t* const port = row.type == serial ? L"COM1" : L"LPT1";
-        Plot_Job job(row.type, port);
+        SCOPED_TRACE(row.type);
+        Plot_Job job(row.type, row.port);
         job.cfg()->set_input_timeout(250);
         job.cfg()->set_output_timeout(row.output);
         const auto has = [&](const COMMTIMEOUTS& timeouts) {
-            const COMMTIMEOUTS now = job.machine.timeouts_of(port);
+            const COMMTIMEOUTS now = job.machine.timeouts_of(row.port);
             return std::memcmp(&now, &timeouts, sizeof now) == 0;
         };
-        // The second time, nothing is left of the first.
-        for (int times = 0; times < 2; ++times) {
-            job.machine.preset_timeouts(port, before);
-            if (*row.fault && times == 1)
-                job.machine.fail(row.fault);
-            EXPECT_TRUE(job.open());
-            EXPECT_TRUE(has(row.during) || (*row.fault && times == 0));
-            EXPECT_TRUE(job.io->close());
-            EXPECT_TRUE(has(times == 0 ? before : row.after));
-        }
-        EXPECT_EQ(job.told(), L"");
+        job.machine.preset_timeouts(row.port, before);
+        EXPECT_TRUE(job.open());
+        EXPECT_TRUE(has(row.during));
+        EXPECT_TRUE(job.io->close());
+        EXPECT_TRUE(has(before));
+        job.machine.fail("GetCommTimeouts");
+        EXPECT_TRUE(job.open());
+        EXPECT_TRUE(job.io->close());
+        EXPECT_FALSE(has(before)) << "nothing is left of the first time";
         // Then a plot to file, which has nothing to restore.
         job.cfg()->set_plot_to_file(true);
         job.cfg()->set_portname(L"out.plt");
@@ -331,29 +302,21 @@ TEST(LocalPort, GetsItsTimeoutsAndHasItsOwnBackAtTheEnd) {
 
 TEST(LocalPort, AsksWhenTheLineCannotBeSet) {
     const std::wstring ask = L"ARI 239 PX_Std_Plotter_IO::write_local (null)";
+    const std::wstring log = L"; log PX_Std_Plotter_IO::configure_local_port: 206";
     const struct {
-        std::vector<std::pair<const char*, int>> faults;
+        std::vector<const char*> faults;
         std::deque<int> answers;
         bool opens;
         std::wstring told;
         DWORD baud_after;    // of what was found (300) and what was set (9600)
         DWORD events_after;  // likewise 7 and 0x58
     } rows[] = {
-        {{}, {}, true, L"", 300, 7},
-        {{{"SetCommState", 1}}, {IDRETRY}, true, ask, 300, 0x58},
-        {{{"GetCommState", 1}}, {IDRETRY}, true, ask, 300, 0x58},
-        {{{"GetCommState", 1}, {"SetCommState", 1}}, {IDRETRY, IDRETRY}, true, ask + L"; " + ask, 300, 0x58},
-        {{{"SetCommState", 1}}, {IDIGNORE}, true, ask, 300, 7},
-        {{{"GetCommState", 1}}, {IDIGNORE}, true, ask, 300, 7},
-        {{{"SetCommState", 1}},
-         {IDABORT},
-         false,
-         ask + L"; log PX_Std_Plotter_IO::configure_local_port: 206",
-         300,
-         0x58},
-        {{{"GetCommMask", 1}}, {}, true, L"", 300, 0x58},
-        {{{"SetCommMask", 1}}, {}, false, L"", 9600, 7},
-        {{{"SetCommMask", 1}, {"SetCommState", 1}}, {IDRETRY}, false, ask, 9600, 0x58},
+        {{"SetCommState"}, {IDRETRY}, true, ask, 300, 0x58},
+        {{"GetCommState"}, {IDIGNORE}, true, ask, 300, 7},
+        {{"SetCommState"}, {IDABORT}, false, ask + log, 300, 0x58},
+        {{"GetCommMask"}, {}, true, L"", 300, 0x58},
+        {{"SetCommMask"}, {}, false, L"", 9600, 7},
+        {{"SetCommMask", "SetCommState"}, {IDRETRY}, false, ask, 9600, 0x58},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(&row - rows);
@@ -362,42 +325,35 @@ TEST(LocalPort, AsksWhenTheLineCannotBeSet) {
         before.BaudRate = 300;
         job.machine.preset_comm_state(L"COM1", before);
         job.machine.preset_event_mask(L"COM1", 7);
-        for (const auto& [operation, times] : row.faults)
-            job.machine.fail(operation, times);
+        for (const char* const operation : row.faults)
+            job.machine.fail(operation);
         job.handler->answers = row.answers;
         EXPECT_EQ(job.open(), row.opens);
         EXPECT_EQ(job.told(), row.told);
         job.calls();
         EXPECT_TRUE(job.io->close());
-        if (!row.opens) {
-            EXPECT_EQ(job.calls(), L"") << "the port stays held";
-            EXPECT_EQ(job.machine.open_files(), std::vector<std::wstring>{L"COM1"});
-        }
+        EXPECT_EQ(job.calls() == L"", !row.opens) << "the port stays held";
         EXPECT_EQ(job.machine.comm_state_of(L"COM1").BaudRate, row.baud_after);
         EXPECT_EQ(job.machine.event_mask_of(L"COM1"), row.events_after);
     }
 }
 
 TEST(Channel, AsksWhatToDoWithoutItsDevice) {
-    const std::wstring port = L"path 0; ARI 208 PX_Std_Plotter_IO::open_local ";
-    const std::wstring file = L"path 0; ARI 238 PX_Std_Plotter_IO::open_local ";
     for (const bool to_file : {false, true}) {
         for (const int answer : {IDRETRY, IDIGNORE, IDABORT}) {
             Plot_Job job(parallel, L"LPT1", to_file);
-            job.io->set_handle_ari_for_drv(false);
             job.io->set_buffer_size(0);
             job.machine.fail("CreateFileW", 2);
             job.handler->answers = {IDRETRY, answer};
-            if (answer == IDRETRY)
-                job.handler->answers = {IDRETRY, IDRETRY};
-            EXPECT_EQ(job.open(), answer == IDRETRY);
-            EXPECT_EQ(job.told(), to_file ? file + L"; " + file : port + L"; " + port);
-            EXPECT_EQ(job.machine.count_of("CreateFileW"), answer == IDRETRY ? 3 : 2);
-            EXPECT_EQ(job.io->get_buffer_size(), answer == IDRETRY ? 4096 : 0);
-            EXPECT_EQ(job.write("a"), answer == IDRETRY ? 1 : 0) << "0, not -1: it is not open";
-            EXPECT_TRUE(job.io->close());
-            EXPECT_TRUE(job.io->open()) << "an Abort is forgotten";
-            EXPECT_EQ(job.write("a"), 1);
+            const bool opens = answer == IDRETRY;
+            EXPECT_EQ(job.open(), opens);
+            const std::wstring ask = std::wstring(L"path 0; ARI ") + (to_file ? L"238" : L"208") +
+                                     L" PX_Std_Plotter_IO::open_local ";
+            EXPECT_EQ(job.told(), ask + L"; " + ask);
+            EXPECT_EQ(job.io->get_buffer_size(), opens ? 4096 : 0);
+            EXPECT_EQ(job.write("a"), opens ? 1 : 0) << "0, not -1: it is not open";
+            EXPECT_TRUE(job.io->close() && job.io->open());
+            EXPECT_EQ(job.write("a"), 1) << "an Abort is forgotten";
         }
     }
 }
@@ -427,25 +383,20 @@ TEST(Channel, ReportsWhatElseIsThrownWhileOpeningAndTriesAgain) {
 }
 
 TEST(PrintQueue, IsFoundByItsNamesOrByTheUser) {
+    const std::wstring asks = L" ConnectToPrinterDlg null 0;";
     const struct {
         const wchar_t *friendly, *brief, *answer;
         bool redirected, quiet;
         std::wstring calls;
         const wchar_t* opened;
     } rows[] = {
-        {L"Hall", L"Attic", L"", false, false, L"OpenPrinterW Hall null;", L"Hall"},
-        {L"Lost", L"Attic", L"", false, false, L"OpenPrinterW Lost null; OpenPrinterW Attic null;", L"Attic"},
-        {L"", L"Attic", L"", false, false, L"OpenPrinterW Attic null;", L"Attic"},
-        {L"Lost", L"", L"Attic", false, false, L"OpenPrinterW Lost null; ConnectToPrinterDlg null 0;",
+        {L"Hall", L"Attic", L"", false, false, L" OpenPrinterW Hall null;", L"Hall"},
+        {L"Lost", L"Attic", L"", false, false, L" OpenPrinterW Lost null; OpenPrinterW Attic null;",
          L"Attic"},
-        {L"", L"", L"Hall", false, false, L"ConnectToPrinterDlg null 0;", L"Hall"},
-        {L"", L"", L"Hall", false, true, L"", L""},
-        {L"Lost", L"Attic", L"Hall", true, false, L"OpenPrinterW Away null; ConnectToPrinterDlg null 0;",
-         L"Hall"},
-        {L"", L"", L"", false, false,
-         L"ConnectToPrinterDlg null 0; GetVersionExW; StartDocPrinterW null 1 Drawing null RAW 0; "
-         L"ClosePrinter null;",
-         L""},
+        {L"", L"", L"Hall", false, false, asks, L"Hall"},
+        {L"", L"", L"", false, true, L"", L""},
+        {L"", L"", L"", false, false, asks, L"null"},
+        {L"Lost", L"Attic", L"Hall", true, false, L" OpenPrinterW Away null;" + asks, L"Hall"},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(testing::PrintToString(row.calls));
@@ -459,12 +410,13 @@ TEST(PrintQueue, IsFoundByItsNamesOrByTheUser) {
         if (*row.answer)
             job.machine.answer_next_printer_dialogue(row.answer);
         job.held->set_quiet_mode(row.quiet);
-        EXPECT_EQ(job.open(), *row.opened != 0);
-        std::wstring expected = (row.redirected ? L"WNetGetConnectionW COM1 260; {" : L"{");
-        expected += (row.calls.empty() ? L"" : L" ") + row.calls;
-        if (const std::wstring name = row.opened; !name.empty())
-            expected += L" GetVersionExW; StartDocPrinterW " + name +
-                        L" 1 Drawing null RAW 0; StartPagePrinter " + name + L";";
+        const std::wstring name = row.opened;
+        const bool opens = !name.empty() && name != L"null";
+        EXPECT_EQ(job.open(), opens);
+        std::wstring expected = (row.redirected ? L"WNetGetConnectionW COM1 260; {" : L"{") + row.calls;
+        if (!name.empty())
+            expected += L" GetVersionExW; StartDocPrinterW " + name + L" 1 Drawing null RAW 0; " +
+                        (opens ? L"StartPagePrinter " : L"ClosePrinter ") + name + L";";
         EXPECT_EQ(job.calls(), expected + L" }");
     }
 }
@@ -475,12 +427,10 @@ TEST(PrintQueue, StaysClosedWhenItsJobDoesNotStart) {
         std::wstring rest;
         bool stays_held;
     } rows[] = {
-        {"GetVersionExW", L"StartDocPrinterW Hall 1 Plan null RAW 0; StartPagePrinter Hall; }", true},
-        {"StartDocPrinterW", L"StartDocPrinterW Hall 2 Plan null RAW 0; ClosePrinter Hall; }", false},
+        {"GetVersionExW", L"1 Plan null RAW 0; StartPagePrinter Hall; }", true},
+        {"StartDocPrinterW", L"2 Plan null RAW 0; ClosePrinter Hall; }", false},
         {"StartPagePrinter",
-         L"StartDocPrinterW Hall 2 Plan null RAW 0; StartPagePrinter Hall; EndDocPrinter Hall; "
-         L"ClosePrinter Hall; }",
-         false},
+         L"2 Plan null RAW 0; StartPagePrinter Hall; EndDocPrinter Hall; ClosePrinter Hall; }", false},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.fault);
@@ -490,31 +440,27 @@ TEST(PrintQueue, StaysClosedWhenItsJobDoesNotStart) {
         job.io->set_document_name(L"Plan");
         job.machine.fail(row.fault);
         EXPECT_FALSE(job.open());
-        EXPECT_EQ(job.calls(), L"{ OpenPrinterW Hall null; GetVersionExW; " + row.rest);
         EXPECT_TRUE(job.io->close());
-        EXPECT_EQ(job.calls(), L"");
+        EXPECT_EQ(job.calls(), L"{ OpenPrinterW Hall null; GetVersionExW; StartDocPrinterW Hall " + row.rest);
         EXPECT_EQ(job.machine.open_printers().size(), row.stays_held ? 1U : 0U);
         EXPECT_EQ(job.told(), L"");
     }
 }
 
 TEST(Channel, ClosesInAllStepsAndTellsWhenOneFails) {
-    for (const char* const step : {"EndPagePrinter", "EndDocPrinter", "ClosePrinter"}) {
-        Plot_Job job(network);
+    for (const std::string step : {"EndPagePrinter", "EndDocPrinter", "ClosePrinter", "SetCommTimeouts",
+                                   "SetCommMask", "SetCommState", "CloseHandle"}) {
+        SCOPED_TRACE(step);
+        const bool is_setting = step.starts_with("SetComm");
+        const bool to_queue = step.ends_with("Printer");
+        Plot_Job job(to_queue ? network : serial);
         add_hall(job);
         ASSERT_TRUE(job.open());
-        job.calls();
-        job.machine.fail(step);
-        EXPECT_FALSE(job.io->close());
-        EXPECT_EQ(job.calls(), L"{ EndPagePrinter Hall; EndDocPrinter Hall; ClosePrinter Hall; }");
+        job.machine.fail(step.c_str());
+        EXPECT_EQ(job.io->close(), is_setting) << "a line that is not restored is no failure";
+        EXPECT_EQ(job.machine.count_of(to_queue ? "ClosePrinter" : "CloseHandle"), 1);
+        EXPECT_EQ(job.machine.count_of("EndDocPrinter"), to_queue ? 1 : 0);
         EXPECT_TRUE(job.io->close()) << "closed all the same";
-    }
-    for (const char* const step : {"SetCommTimeouts", "SetCommMask", "SetCommState", "CloseHandle"}) {
-        Plot_Job job;
-        ASSERT_TRUE(job.open());
-        job.machine.fail(step);
-        EXPECT_EQ(job.io->close(), std::string(step) != "CloseHandle");
-        EXPECT_EQ(job.machine.count_of("CloseHandle"), 1);
     }
 }
 
@@ -540,33 +486,17 @@ public:
     std::wstring told;
 };
 
-TEST(Stall, IsToldByWhatTheLineSays) {
+TEST(Stall, IsToldByTheFirstThatTheLineSays) {
     const struct {
         DWORD errors;
         const wchar_t *on_serial, *on_parallel;
     } rows[] = {
-        {0, L"209", L"218 LPT1"},
-        {0x8, L"233", L"233"},
-        {0x8000, L"246 COM1", L"246 LPT1"},
-        {0x10, L"244 COM1", L"244 LPT1"},
-        {0x800, L"245 COM1", L"245 LPT1"},
-        {0x200, L"218 COM1", L"218 LPT1"},
-        {0x1000, L"236", L"236"},
-        {0x2, L"247 COM1", L"247 LPT1"},
-        {0x4, L"235", L"235"},
-        {0x100, L"209", L"218 LPT1"},
-        {0x1, L"234 COM1", L"234 LPT1"},
-        {0x400, L"234 COM1", L"234 LPT1"},
-        // The first that applies.
-        {0xFFFF, L"233", L"233"},
-        {0xFFF7, L"246 COM1", L"246 LPT1"},
-        {0x7FF7, L"244 COM1", L"244 LPT1"},
-        {0x7FE7, L"245 COM1", L"245 LPT1"},
-        {0x77E7, L"218 COM1", L"218 LPT1"},
-        {0x75E7, L"236", L"236"},
-        {0x65E7, L"247 COM1", L"247 LPT1"},
-        {0x65E5, L"235", L"235"},
-        {0x65E1, L"209", L"218 LPT1"},
+        {0, L"209", L"218 LPT1"},           {0xFFFF, L"233", L"233"},
+        {0xFFF7, L"246 COM1", L"246 LPT1"}, {0x7FF7, L"244 COM1", L"244 LPT1"},
+        {0x7FE7, L"245 COM1", L"245 LPT1"}, {0x77E7, L"218 COM1", L"218 LPT1"},
+        {0x75E7, L"236", L"236"},           {0x65E7, L"247 COM1", L"247 LPT1"},
+        {0x65E5, L"235", L"235"},           {0x65E1, L"209", L"218 LPT1"},
+        {0x64E1, L"234 COM1", L"234 LPT1"},
     };
     for (const auto& row : rows) {
         for (const auto type : {serial, parallel}) {
@@ -592,19 +522,12 @@ TEST(Stall, IsToldByWhatTheLineSays) {
 TEST(Stall, WithoutAFailureAsksNothingOfTheLine) {
     const struct {
         PX_IO_Type::Enum type;
-        const wchar_t* port;
         bool to_file;
         const wchar_t* text;
-    } rows[] = {
-        {serial, L"COM1", false, L"209"},
-        {parallel, L"LPT1", false, L"218 LPT1"},
-        {PX_IO_Type::File, L"out.plt", true, L"209"},
-        {network, L"out.plt", true, L"209"},
-        {parallel, L"out.plt", true, L"218 out.plt"},
-    };
+    } rows[] = {{serial, false, L"209"}, {parallel, false, L"218 COM1"}, {network, true, L"209"}};
     for (const auto& row : rows) {
-        const auto stall = [&](PX_Scripted_Platform& machine) { machine.take_at_most(row.port, {0}); };
-        const Stalled stalled(row.type, row.port, {IDIGNORE}, stall, true, row.to_file);
+        const auto stall = [](PX_Scripted_Platform& machine) { machine.take_at_most(L"COM1", {0}); };
+        const Stalled stalled(row.type, L"COM1", {IDIGNORE}, stall, true, row.to_file);
         EXPECT_EQ(stalled.told, std::wstring(L"box 50 0 (null): ") + row.text);
         EXPECT_EQ(stalled.result, 2);
         EXPECT_EQ(stalled.job.machine.count_of("ClearCommError"), 0);
@@ -612,40 +535,31 @@ TEST(Stall, WithoutAFailureAsksNothingOfTheLine) {
 }
 
 TEST(Stall, IsAnsweredByTheUser) {
-    const std::wstring queue = L"ARI 240 PX_Std_Plotter_IO::write_net_spool (null)";
-    const std::wstring box = L"box 50 0 (null): 209";
     const struct {
-        std::deque<int> answers;
-        bool asks;
+        std::deque<int> answers;  // none where the driver asks
         long result;
         const char* out;
-        int times;
     } rows[] = {
-        {{}, false, 3, "abc", 0},
-        {{IDIGNORE}, true, 3, "abc", 1},
-        {{IDABORT}, true, -1, "abc", 1},
-        {{IDRETRY, IDIGNORE}, true, 3, "abc", 2},
-        {{IDRETRY, IDRETRY}, true, 6, "abcdef", 2},
-        {{0}, true, 3, "abc", 1},
-        {{IDCANCEL}, true, 3, "abc", 1},
+        {{}, 3, "abc"},         {{IDIGNORE}, 3, "abc"},          {{IDABORT}, -1, "abc"},
+        {{IDCANCEL}, 3, "abc"}, {{IDRETRY, IDIGNORE}, 3, "abc"}, {{IDRETRY, IDRETRY}, 6, "abcdef"},
     };
     for (const auto& row : rows) {
         for (const bool to_queue : {false, true}) {
             SCOPED_TRACE(testing::Message() << &row - rows << to_queue);
             const wchar_t* const name = to_queue ? L"Hall" : L"COM1";
+            const std::size_t times = row.answers.size();
             // One byte is taken by a write that fails, then none by one that does not.
-            Stalled stalled(
-                to_queue ? network : serial, name, row.answers,
-                [&](PX_Scripted_Platform& machine) {
-                    machine.fail_having_taken(name, 1);
-                    if (row.times == 2)
-                        machine.take_at_most(name, {0});
-                },
-                row.asks);
+            const auto stall = [&](PX_Scripted_Platform& machine) {
+                machine.fail_having_taken(name, 1);
+                if (times == 2)
+                    machine.take_at_most(name, {0});
+            };
+            Stalled stalled(to_queue ? network : serial, name, row.answers, stall, times != 0);
             EXPECT_EQ(stalled.result, row.result);
             EXPECT_EQ(stalled.job.out(name), row.out);
-            const std::wstring ask = to_queue ? queue : box;
-            EXPECT_EQ(stalled.told, row.times == 0 ? L"" : row.times == 1 ? ask : ask + L"; " + ask);
+            const std::wstring ask =
+                to_queue ? L"ARI 240 PX_Std_Plotter_IO::write_net_spool (null)" : L"box 50 0 (null): 209";
+            EXPECT_EQ(stalled.told, times == 0 ? L"" : times == 1 ? ask : ask + L"; " + ask);
             const bool aborted = row.result == -1;
             EXPECT_EQ(stalled.job.write("g"), aborted ? -1 : 1);
             char byte = 0;
@@ -669,29 +583,22 @@ TEST(Buffer, HoldsChunksUpToItsLengthAndSendsLargerOnes) {
     To_File job;
     job.io->set_buffer_size(8);
     ASSERT_TRUE(job.open());
-    EXPECT_EQ(job.write(""), 0);
     EXPECT_EQ(job.write("12345678"), 8);
-    EXPECT_EQ(job.out(), "") << "exactly the length";
     EXPECT_EQ(job.write(""), 0);
-    EXPECT_EQ(job.out(), "");
+    EXPECT_EQ(job.out(), "") << "exactly the length";
     EXPECT_EQ(job.write("9"), 1);
     EXPECT_EQ(job.out(), "12345678");
     EXPECT_EQ(job.write("ABCDEFGHI"), 9);
     EXPECT_EQ(job.out(), "123456789ABCDEFGHI") << "what was buffered goes first";
-    job.calls();
-    EXPECT_EQ(job.write("abcdefghi"), 9);
-    EXPECT_EQ(job.calls(), L"WriteFile out.plt 9;");
-
     job.write("12");
-    EXPECT_TRUE(job.io->flush());
+    job.calls();
+    EXPECT_TRUE(job.io->flush() && job.io->flush());
     EXPECT_EQ(job.calls(), L"WriteFile out.plt 2;");
-    EXPECT_TRUE(job.io->flush());
-    EXPECT_EQ(job.calls(), L"");
     job.write("dropped");
     job.io->purge();
     EXPECT_EQ(job.calls(), L"PurgeComm out.plt 5;");
     EXPECT_TRUE(job.io->close());
-    EXPECT_EQ(job.out(), "123456789ABCDEFGHIabcdefghi12");
+    EXPECT_EQ(job.out(), "123456789ABCDEFGHI12");
 }
 
 // The buffer of eight is full, and the device takes nothing twice.
@@ -710,21 +617,21 @@ TEST(Buffer, IsEmptiedWhateverItTakesWhenTheChannelAsks) {
     const struct {
         const char* chunk;
         std::deque<int> answers;
-        long result;
         const char* out;
     } rows[] = {
-        {"9", {IDRETRY}, 1, "123456789"},    {"9", {IDIGNORE}, 1, "123456789"},
-        {"9", {IDABORT}, -1, "123"},         {"ABCDEFGHI", {IDIGNORE}, 9, "12345678ABCDEFGHI"},
-        {"ABCDEFGHI", {IDABORT}, -1, "123"},
+        {"9", {IDRETRY}, "123456789x"},  {"9", {IDIGNORE}, "123456789x"},
+        {"9", {IDABORT}, "123"},         {"ABCDEFGHI", {IDIGNORE}, "12345678ABCDEFGHIx"},
+        {"ABCDEFGHI", {IDABORT}, "123"},
     };
     for (const auto& row : rows) {
         Full_Buffer job(true);
         job.handler->answers = row.answers;
-        EXPECT_EQ(job.write(row.chunk), row.result);
-        EXPECT_EQ(job.write("x"), row.result == -1 ? -1 : 1);
-        EXPECT_EQ(job.io->flush(), true);
+        const bool aborted = row.answers.front() == IDABORT;
+        EXPECT_EQ(job.write(row.chunk), aborted ? -1 : static_cast<long>(std::strlen(row.chunk)));
+        EXPECT_EQ(job.write("x"), aborted ? -1 : 1);
+        EXPECT_TRUE(job.io->flush());
         EXPECT_EQ(job.told(), L"box 50 0 (null): 209") << "an Abort empties the buffer";
-        EXPECT_EQ(job.out(), row.out + std::string(row.result == -1 ? "" : "x"));
+        EXPECT_EQ(job.out(), row.out);
         EXPECT_TRUE(job.io->close());
     }
     Full_Buffer job(true);
@@ -735,7 +642,6 @@ TEST(Buffer, IsEmptiedWhateverItTakesWhenTheChannelAsks) {
     aborted.handler->answers = {IDABORT};
     EXPECT_TRUE(aborted.io->close());
     EXPECT_EQ(aborted.out(), "123");
-    EXPECT_EQ(aborted.machine.open_files().size(), 0U);
 }
 
 TEST(Buffer, IsTriedOnceWhenTheDriverAsks) {
@@ -745,14 +651,11 @@ TEST(Buffer, IsTriedOnceWhenTheDriverAsks) {
     job.machine.take_at_most(L"out.plt", {0, 0});
     EXPECT_EQ(job.write("9"), 0);
     EXPECT_EQ(job.write("ABCDEFGHI"), 0);
-    EXPECT_EQ(job.out(), "123");
     EXPECT_EQ(job.write("9"), 1);
-    EXPECT_EQ(job.out(), "12345678");
     EXPECT_TRUE(job.io->flush());
     EXPECT_EQ(job.out(), "12345678") << "a chunk that did not fit is dropped";
     EXPECT_EQ(job.write("A"), 1);
     EXPECT_EQ(job.write("BCDEFGHIJ"), 9) << "a larger one is sent";
-    EXPECT_EQ(job.out(), "12345678ABCDEFGHIJ");
     EXPECT_EQ(job.told(), L"");
 
     job.write("KL");
@@ -777,7 +680,7 @@ TEST(Buffer, ChangesItsSizeDuringAJob) {
     job.io->set_handle_ari_for_drv(false);
     job.write("abc");
     job.io->set_buffer_size(20000);
-    EXPECT_EQ(job.out(), "");
+    EXPECT_EQ(job.out(), "") << "the same size again";
     job.machine.take_at_most(L"out.plt", {1, 0});
     job.handler->answers = {IDRETRY};
     job.io->set_buffer_size(2);
@@ -785,16 +688,12 @@ TEST(Buffer, ChangesItsSizeDuringAJob) {
     EXPECT_EQ(job.told(), L"box 50 0 (null): 209");
     EXPECT_EQ(job.io->get_buffer_size(), 2);
     EXPECT_FALSE(job.io->get_handle_ari_for_drv());
-    EXPECT_TRUE(job.io->close());
-    EXPECT_EQ(job.io->get_buffer_size(), 2);
 }
 
 TEST(Buffer, ComesAndGoesDuringAJob) {
     To_File job;
     job.io->set_io_buffering(false);
     ASSERT_TRUE(job.open());
-    EXPECT_EQ(job.write(""), 0);
-    job.calls();
     EXPECT_EQ(job.write("a"), 1);
     EXPECT_EQ(job.out(), "a");
     EXPECT_TRUE(job.io->flush());
@@ -802,8 +701,8 @@ TEST(Buffer, ComesAndGoesDuringAJob) {
     job.io->set_io_buffering(true);
     EXPECT_EQ(job.io->get_buffer_size(), 5);
     EXPECT_EQ(job.write("b"), 1);
-    EXPECT_EQ(job.out(), "a");
     job.io->set_io_buffering(true);
+    EXPECT_EQ(job.out(), "a");
     EXPECT_TRUE(job.io->flush());
     job.io->set_io_buffering(false);
     EXPECT_EQ(job.write("c"), 1);
@@ -816,7 +715,6 @@ TEST(Buffer, ComesAndGoesDuringAJob) {
             const auto thrown = support::thrown_by([&] { job.io->set_io_buffering(true); });
             ASSERT_TRUE(thrown);
             EXPECT_EQ(thrown->code, code);
-            EXPECT_EQ(thrown->detail == L"m_chars", code == 1101);
         }
         EXPECT_EQ(job.write("d"), 1) << "straight";
         job.io->set_io_buffering(false);
@@ -830,13 +728,8 @@ TEST(Channel, ReadsAndPurgesByItsRoute) {
         PX_IO_Type::Enum type;
         const wchar_t* name;
         const char* read;
-        std::wstring purged;
     } rows[] = {
-        {serial, L"COM1", "ReadFile", L"PurgeComm COM1 5;"},
-        // On a queue it does nothing, and no job is cancelled.
-        {network, L"Hall", "ReadPrinter", L"PurgeComm Hall 5;"},
-        {parallel, L"Hall", "ReadPrinter", L"PurgeComm Hall 5;"},
-    };
+        {serial, L"COM1", "ReadFile"}, {network, L"Hall", "ReadPrinter"}, {parallel, L"Hall", "ReadPrinter"}};
     for (const auto& row : rows) {
         Plot_Job job(row.type);
         add_hall(job);
@@ -853,10 +746,10 @@ TEST(Channel, ReadsAndPurgesByItsRoute) {
         job.write("abc");
         job.calls();
         job.io->purge();
-        EXPECT_EQ(job.calls(), row.purged);
+        // On a queue it does nothing, and no job is cancelled.
+        EXPECT_EQ(job.calls(), std::wstring(L"PurgeComm ") + row.name + L" 5;");
         EXPECT_TRUE(job.io->close());
         EXPECT_EQ(job.out(row.name), "");
-        EXPECT_EQ(job.told(), L"");
     }
 }
 
@@ -893,9 +786,6 @@ TEST(Channel, WorksWithoutAHandlerUntilOneIsNeeded) {
     EXPECT_EQ(job.write("abc"), 3);
     job.machine.take_at_most(L"out.plt", {0});
     expect_null([&] { job.write("abc"); });
-    EXPECT_TRUE(job.io->close());
-    job.machine.fail("CreateFileW");
-    expect_null([&] { job.open(); });
 }
 
 TEST(Channel, ClosesWhenItGoes) {
@@ -916,14 +806,11 @@ TEST(Channel, AllocatesNothingToWrite) {
         job.machine.keep_bytes(false);
         const std::string bytes(5000, 'x');
         const std::size_t before = support::allocation_count();
-        for (int i = 0; i < 100; ++i) {
-            job.io->write(bytes.data(), 100);
-            job.io->write(bytes.data(), 5000);
-            job.io->write(bytes.data(), 4096);
-        }
+        for (const unsigned long size : {100UL, 5000UL, 4096UL, 100UL})
+            job.io->write(bytes.data(), size);
         job.io->flush();
         EXPECT_EQ(support::allocation_count(), before);
-        EXPECT_EQ(job.machine.count_bytes_written_to(type == serial ? L"COM1" : L"Hall"), 919600U);
+        EXPECT_EQ(job.machine.count_bytes_written_to(type == serial ? L"COM1" : L"Hall"), 9296U);
     }
 }
 
@@ -932,34 +819,28 @@ TEST(Channel, DeliversEveryByteOnceAndInOrder) {
     const auto up_to = [&](long greatest) {
         return static_cast<long>(random() % static_cast<unsigned long>(greatest)) + 1;
     };
-    for (const long length : {1L, 2L, 7L, 64L, 1000L, 4095L, 4096L, 8191L, 8192L}) {
-        for (const bool to_queue : {false, true}) {
-            Plot_Job job(to_queue ? network : serial);
-            const wchar_t* const name = to_queue ? L"Hall" : L"COM1";
-            add_hall(job);
-            job.machine.record_calls(false);
-            job.io->set_buffer_size(length);
-            ASSERT_TRUE(job.open());
-            job.machine.take_portions(name, [&](DWORD offered) {
-                return random() % 8 == 0 ? 0 : static_cast<DWORD>(up_to(offered));
-            });
-            std::string sent;
-            for (int chunks = 0; chunks < 200; ++chunks) {
-                const long sizes[] = {up_to(10000), up_to(40), length, length + 1, length - 1, 1};
-                std::string chunk(static_cast<std::size_t>(sizes[random() % 6]), '\0');
-                for (char& byte : chunk)
-                    byte = static_cast<char>(random() >> 8);
-                // Retry every time; what is asked is not of interest.
-                job.handler->answers.assign(1000, IDRETRY);
-                ASSERT_EQ(job.write(chunk), static_cast<long>(chunk.size()));
-                sent += chunk;
-                EXPECT_TRUE(random() % 20 != 0 || job.io->flush());
-                job.handler->told.clear();
-            }
-            EXPECT_TRUE(job.io->close());
-            job.handler->answers.clear();
-            EXPECT_TRUE(job.out(name) == sent) << length;
+    for (const long length : {1L, 7L, 1000L, 4096L, 8192L}) {
+        To_File job;
+        job.machine.record_calls(false);
+        job.io->set_buffer_size(length);
+        ASSERT_TRUE(job.open());
+        job.machine.take_portions(L"out.plt", [&](DWORD offered) {
+            return random() % 8 == 0 ? 0 : static_cast<DWORD>(up_to(offered));
+        });
+        std::string sent;
+        for (int chunks = 0; chunks < 200; ++chunks) {
+            const long sizes[] = {up_to(10000), up_to(40), length, length + 1, length - 1, 1};
+            std::string chunk(static_cast<std::size_t>(sizes[random() % 6]), '\0');
+            for (char& byte : chunk)
+                byte = static_cast<char>(random() >> 8);
+            job.handler->answers.assign(1000, IDRETRY);
+            ASSERT_EQ(job.write(chunk), static_cast<long>(chunk.size()));
+            sent += chunk;
+            EXPECT_TRUE(random() % 20 != 0 || job.io->flush());
         }
+        EXPECT_TRUE(job.io->close());
+        job.handler->answers.clear();
+        EXPECT_TRUE(job.out() == sent) << length;
     }
 }
 

@@ -45,13 +45,6 @@ protected:
     IO_Discovery() { PX_Module_Exit(); }
     ~IO_Discovery() override { PX_Module_Exit(); }
 
-    std::vector<std::wstring> first_arguments_of(const char* operation) const {
-        std::vector<std::wstring> arguments;
-        for (const auto& call : m_machine.calls_of(operation))
-            arguments.push_back(call.arguments[0]);
-        return arguments;
-    }
-
     PX_Scripted_Platform m_machine;
     const PX_Use_Platform m_use{m_machine};
 };
@@ -98,14 +91,11 @@ TEST_F(IO_Discovery, PrintersByAttributesPortAndServer) {
         const wchar_t* shared;  // null for a printer that is no port
     };
     constexpr DWORD shared_local = PRINTER_ATTRIBUTE_LOCAL | PRINTER_ATTRIBUTE_SHARED;
-    const std::wstring server(200, L's'), share(200, L'p');
-    const std::wstring long_name = server + L"\\" + share;
     // clang-format off
     const Case rows[] = {
         {"local on a port of its own", {.name = L"P", .port = L"TCP:1"}, L""},
         {"network", {.name = L"P", .port = L"TCP:1", .attributes = 0x10}, L""},
         {"neither network nor local", {.name = L"P", .port = L"TCP:1", .attributes = 0xFFAF}, nullptr},
-        {"no name", {.port = L"TCP:1"}, nullptr},
         {"empty name", {.name = L"", .port = L"TCP:1"}, nullptr},
         {"no port", {.name = L"P"}, L""},
         {"on a parallel port", {.name = L"P", .port = L"lpt1:"}, nullptr},
@@ -118,7 +108,6 @@ TEST_F(IO_Discovery, PrintersByAttributesPortAndServer) {
         {"shared from here", {.name = L"P", .share = L"q", .attributes = shared_local}, L"q"},
         {"shared without a share", {.server = L"S", .name = L"P", .attributes = shared_local}, L""},
         {"not shared", {.server = L"S", .name = L"P", .share = L"q"}, L""},
-        {"a long share", {.server = server, .name = L"P", .share = share, .attributes = shared_local}, long_name.c_str()},
     };
     // clang-format on
     for (const Case& row : rows) {
@@ -145,8 +134,6 @@ TEST_F(IO_Discovery, ASerialPortHasWhatTheRecordSays) {
     const Capabilities system;
     const auto port = system.get_port_list()->find(L"COM1");
     ASSERT_TRUE(port);
-    EXPECT_STREQ(port->get_localized_name(), L"");
-    EXPECT_STREQ(port->get_shared_name(), L"");
     EXPECT_STREQ(port->get_abilities(), L"303330");
     EXPECT_EQ(port->get_bidi_flags(), 1);
     EXPECT_EQ(port->get_handshakes(), 0xFFF);
@@ -171,8 +158,6 @@ TEST_F(IO_Discovery, ASerialPortHasWhatTheRecordSays) {
     }
     const auto parallel = system.get_port_list()->find(L"LPT1");
     EXPECT_STREQ(parallel->get_abilities(), L"300000");
-    EXPECT_EQ(parallel->get_bidi_flags(), 0);
-    EXPECT_EQ(parallel->get_handshakes(), 0);
     EXPECT_TRUE(parallel->get_protocol_list()->is_empty() && parallel->get_baud_rate_list()->is_empty());
     EXPECT_EQ(m_machine.count_of("CreateFileW"), 0) << "no port is opened";
 }
@@ -184,15 +169,12 @@ TEST_F(IO_Discovery, AsksOnceAndSharesTheList) {
     Capabilities first;
     EXPECT_EQ(ports_of(first), L"B 6, A 6, COM1 4");
     m_machine.forget_calls();
-    m_machine.add_port(L"COM2:");
     Capabilities second;
     EXPECT_TRUE(first.get_port_list() == second.get_port_list());
-    for (const char* const operation : {"EnumPortsW", "EnumPrintersW", "WNetGetConnectionW"})
-        EXPECT_EQ(m_machine.count_of(operation), 0) << operation;
+    EXPECT_TRUE(m_machine.calls_of("EnumPortsW").empty() && m_machine.calls_of("EnumPrintersW").empty());
 
     m_machine.record_calls(false);
     const std::unique_ptr<PX_System_IO_Capabilities> clone(first.clone());
-    EXPECT_FALSE(clone->get_port_list() == first.get_port_list());
     EXPECT_EQ(ports_of(*clone), L"B 6, A 6, COM1 4");
     (*clone->get_port_list()->begin())->set_canonical_name(L"C");
     first.set_port_list(clone->get_port_list().get());
@@ -200,54 +182,37 @@ TEST_F(IO_Discovery, AsksOnceAndSharesTheList) {
     EXPECT_EQ(ports_of(second), L"B 6, A 6, COM1 4");
     for (const Thrown& thrown : failures_of([&] { first.set_port_list(second.get_port_list().get()); })) {
         ASSERT_TRUE(thrown.type && thrown.is<MVNK_Memory_Exception>());
-        EXPECT_EQ(thrown.code, 1101U);
         EXPECT_EQ(thrown.function, L"PX_Std_System_IO_Capabilities::set_port_list");
         EXPECT_EQ(thrown.detail, L"m_port_list");
     }
     expect_clone_reports_no_memory<PX_System_IO_Capabilities>(second,
                                                               L"PX_Std_System_IO_Capabilities::clone");
     second.set_port_list(nullptr);
-    EXPECT_FALSE(second.get_port_list());
     const std::unique_ptr<PX_System_IO_Capabilities> without(second.clone());
-    EXPECT_FALSE(without->get_port_list());
+    EXPECT_FALSE(second.get_port_list() || without->get_port_list());
     EXPECT_EQ(ports_of(Capabilities()), L"B 6, A 6, COM1 4");
 }
 
 TEST_F(IO_Discovery, BuffersGrowAndFailuresLeaveTheRest) {
-    struct Case {
-        const char* what;
-        DWORD size;
+    const struct {
         const char* failing;
         int after;
-        std::wstring sizes;
         std::wstring expected;
+    } rows[] = {
+        {"", 0, L"A 6, X 5"},
+        {"EnumPortsW", 0, L"A 6, " + usual},
+        {"EnumPortsW", 1, L"A 6, " + usual},
+        {"EnumPrintersW", 2, L"X 5"},
     };
-    // clang-format off
-    const Case rows[] = {
-        {"fits", 16384, "", 0, L" ports 16384 printers 16384", L"A 6, X 5"},
-        {"too small", 16392, "", 0, L" ports 16384 ports 16392 printers 16384 printers 16392", L"A 6, X 5"},
-        {"ports fail", 0, "EnumPortsW", 0, L" ports 16384 printers 16384", L"A 6, " + usual},
-        {"ports fail with the larger buffer", 16392, "EnumPortsW", 1, L" ports 16384 ports 16392 printers 16384 printers 16392", L"A 6, " + usual},
-        {"printers fail", 0, "EnumPrintersW", 1, L" ports 16384 printers 16384", L"X 5"},
-    };
-    // clang-format on
-    for (const Case& row : rows) {
-        SCOPED_TRACE(row.what);
+    for (const auto& row : rows) {
+        SCOPED_TRACE(&row - rows);
         PX_Scripted_Platform machine;
         machine.add_port(L"X");
         machine.add_printer({.name = L"A", .port = L"TCP:1"});
-        machine.pad_enumerations_to(row.size);
+        machine.pad_enumerations_to(16392);
         if (*row.failing)
             machine.fail(row.failing, 1, row.after);
         EXPECT_EQ(discover(machine), row.expected);
-        std::wstring sizes;
-        for (const auto& call : machine.calls()) {
-            if (call.operation == "EnumPortsW")
-                sizes += L" ports " + call.arguments.back();
-            else if (call.operation == "EnumPrintersW" && call.arguments[0] == L"6")
-                sizes += L" printers " + call.arguments.back();
-        }
-        EXPECT_EQ(sizes, row.sizes);
         EXPECT_TRUE(machine.unspent_faults().empty());
         PX_Module_Exit();
         EXPECT_EQ(machine.count_misuses(), 0);
@@ -297,22 +262,16 @@ TEST_F(IO_Discovery, APortInUseIsOneThatALocalPrintersPortBeginsWith) {
 
 TEST_F(IO_Discovery, RatesAndProtocolsAreTheBitsOfTheRecord) {
     Probe probe;
-    const long known[] = {75,   110,  134,   150,   300,   600,   1200,   1800,   2400, 4800,
-                          7200, 9600, 14400, 19200, 38400, 57344, 131072, 115200, 57600};
-    unsigned long mask = 1;
-    for (const long rate : known) {
-        EXPECT_EQ(probe.win_b_rate_to_long(mask), rate);
-        mask *= 2;
-    }
-    for (const unsigned long other : {0UL, 3UL, mask})
-        EXPECT_EQ(probe.win_b_rate_to_long(other), 0);
+    for (const unsigned long none : {0UL, 3UL, 0x80000UL})
+        EXPECT_EQ(probe.win_b_rate_to_long(none), 0);
+    EXPECT_EQ(probe.win_b_rate_to_long(0x40000), 57600);
     COMMPROP record = {};
     record.dwSettableBaud = 0x70800;
     record.dwMaxBaud = 0x20000;
     const Rates rates = new PX_Object_List<PX_Baud_Rate>;
+    std::wstring added;
     for (const unsigned long bit : {0x400UL, 0x800UL, 0x10000UL, 0x20000UL, 0x40000UL})
         probe.add_b_rate(bit, record, rates);
-    std::wstring added;
     for (const auto& rate : *rates)
         added += L" " + show(rate->get_baud_rate());
     EXPECT_EQ(added, L" 115200 131072 9600") << "settable, and not above the largest bit";
@@ -327,8 +286,7 @@ TEST_F(IO_Discovery, RatesAndProtocolsAreTheBitsOfTheRecord) {
              Case{0, 0, 0, L"list 16XE1.5 16XN1.5 8E1.5 8N1.5"},
              Case{16, 0, 0, L"list 16E1.5 16N1.5"},
              Case{0, 4096, 0, L"list 16XS1.5 8S1.5"},
-             Case{0, 0, 4, L"list 16XE2 16XN2 8E2 8N2"},
-             Case{1, 512, 1, L"list 5O1"},
+             Case{1, 512, 4, L"list 5O2"},
          }) {
         const Protocols list = new PX_Named_Object_List<PX_Protocol>;
         probe.set_up_protocols(row.data_bits, row.parity, row.stop_bits, list, record);
@@ -398,16 +356,6 @@ TEST_F(IO_Discovery, NoMemoryIsReportedAndTheFloatingPointWordComesBack) {
               (std::set<std::wstring>{L"baud_list", L"m_master_port_list", L"new_baud", L"new_port",
                                       L"new_proto", L"pPorts", L"pPrinters", L"pinfo", L"proto_list"}));
     EXPECT_EQ(ports_of(Capabilities()), L"A shared device 6, COM1 4");
-
-    Probe probe;
-    COMMPROP record = {};
-    record.dwSettableBaud = record.dwMaxBaud = 1;
-    const Rates rates = new PX_Object_List<PX_Baud_Rate>;
-    for (const Thrown& thrown : failures_of([&] { probe.add_b_rate(1, record, rates); }))
-        EXPECT_EQ(thrown.detail, L"new_baud");
-    const Protocols list = new PX_Named_Object_List<PX_Protocol>;
-    for (const Thrown& thrown : failures_of([&] { probe.set_up_protocols(32, 256, 2, list, record); }))
-        EXPECT_EQ(thrown.detail, L"new_proto");
     PX_Module_Exit();
 }
 

@@ -35,10 +35,6 @@ PX_Pen* pen(Input& input) {
     return pen;
 }
 
-bool is_within(float value, float least, float most, float by_default) {
-    return !(value < least || value > most) || value == by_default;
-}
-
 }  // namespace
 
 // Whatever becomes the number of pens stays small: a list is made of that many.
@@ -108,20 +104,10 @@ void check(const PX_PhysPen_Capabilities& caps, const PX_PhysPen_Configuration& 
     std::set<long> numbers;
     require(pens.get() != nullptr, "there is a list");
     for (const auto& pen : *pens) {
-        if (!pen)
-            continue;
-        const long its_number = std::wcstol(pen->get_canonical_name(), nullptr, 10);
-        require(its_number >= 1 && its_number <= std::max(most, number), "the number of a pen");
-        require(numbers.insert(its_number).second, "no two pens of one number");
-        require(is_within(pen->get_pen_width(), caps.get_min_pen_width(), caps.get_max_pen_width(),
-                          caps.get_default_pen_width()) &&
-                    is_within(pen->get_pen_speed(), caps.get_min_pen_speed(), caps.get_max_pen_speed(),
-                              caps.get_default_pen_speed()),
-                "the width and speed of a pen");
+        const long its_number = pen ? std::wcstol(pen->get_canonical_name(), nullptr, 10) : 0;
+        require(!pen || (its_number >= 1 && its_number <= std::max(most, number)), "the number of a pen");
+        require(!pen || numbers.insert(its_number).second, "no two pens of one number");
     }
-    const auto behind = numbers.upper_bound(number);
-    require(std::ssize(numbers) == number || std::distance(numbers.begin(), behind) == number,
-            "as many pens as configured, or all up to that number");
 }
 
 }  // namespace fuzz

@@ -1,12 +1,11 @@
 #include <algorithm>
 #include <cwchar>
-#include <map>
-#include <set>
+#include <string>
 
 #include "fuzz/support.h"
 #include "toolkit/marvcon/marvcon.h"
 
-// Flag sets of every kind against a plain text of digits, and the accessors of the domains.
+// Flag sets of every kind, and the accessors of the domains.
 
 namespace {
 
@@ -21,88 +20,75 @@ public:
     using Kind::setNumFlags;
 };
 
-// A digit is any number added to the character 0; a digit that becomes the end of a text stays in the set.
-wchar_t digit(int value) {
-    return static_cast<wchar_t>(L'0' + static_cast<unsigned int>(value));
-}
-int value_of(const std::wstring& digits, int index) {
-    const bool is_there = index >= 0 && static_cast<std::size_t>(index) < digits.size();
-    return is_there
-               ? static_cast<int>(static_cast<unsigned int>(digits[static_cast<std::size_t>(index)]) - L'0')
-               : 0;
-}
-
-// What a set of the kind answers for a flag, and what it stores.
-template <class Kind>
-int expected(const std::wstring& digits, int flag) {
-    if constexpr (std::is_base_of_v<PX_Boolean_Flags, Kind>)
-        return flag >= 0 && (value_of(digits, flag / 4) >> (flag % 4) & 1);
-    const int value = value_of(digits, flag);
+// What a set of the kind answers for a flag that was given this value.
+template <class Kind, class Value>
+Value kept(Value value) {
+    if constexpr (std::is_same_v<Value, bool>)
+        return value;
     constexpr int highest = std::is_base_of_v<PX_Abilities, Kind> ? 5 : 3;
-    return value >= -1 && value <= highest ? value : -1;
-}
-template <class Kind>
-void store(std::wstring& digits, int value, int flag) {
-    int index = flag;
-    if constexpr (std::is_base_of_v<PX_Boolean_Flags, Kind>) {
-        if (flag < 0)
-            return;
-        index = flag / 4;
-        const int bit = 1 << (flag % 4);
-        value = value ? value_of(digits, index) | bit : value_of(digits, index) & ~bit;
-    }
-    if (index >= 0 && static_cast<std::size_t>(index) < digits.size())
-        digits[static_cast<std::size_t>(index)] = digit(value);
+    const int number = static_cast<int>(value);
+    return static_cast<Value>(number >= -1 && number <= highest ? number : -1);
 }
 
 template <class Kind, class Value>
 void drive(Input& input) {
     constexpr bool is_boolean = std::is_same_v<Value, bool>;
     Open<Kind> set;
-    std::wstring digits;
     while (!input.is_empty()) {
         const int flag = input.number<int>();
         const auto value = static_cast<Value>(input.number<int>());
+        const std::wstring before = set.get_text();
+        std::wstring text = before;
         switch (input.up_to(6)) {
             case 0:
-                digits = input.text(40);
-                set.set_text(digits.c_str());
+                text = input.text(40);
+                set.set_text(text.c_str());
                 break;
-            case 1:
+            case 1: {
+                const int other = flag / 2;
+                const auto its_value = set.get_one(other);
                 set.set_one(value, flag);
-                store<Kind>(digits, static_cast<int>(value), flag);
+                require(other == flag || set.get_one(other) == its_value, "the other flags stay");
+                const int index = is_boolean && flag > 0 ? flag / 4 : flag;
+                if (index >= 0 && index < std::ssize(before))
+                    require(set.get_one(flag) == kept<Kind>(value), "a flag is what it was set to");
+                text = set.get_text();
                 break;
+            }
             case 2:
                 set.set_all(value);
-                std::ranges::fill(digits, digit(is_boolean ? (value ? 15 : 0) : static_cast<int>(value)));
+                require(before.empty() || set.get_one(0) == kept<Kind>(value), "all flags are set");
+                text = set.get_text();
                 break;
             case 3: {
                 const int count = input.rarely() ? std::min(flag, -1) : input.byte();
                 set.setNumFlags(count);
                 if (count >= 0)
-                    digits.resize(static_cast<std::size_t>(count), L'0');
+                    text.resize(static_cast<std::size_t>(count), L'0');
+                // A digit may have become the end of the text.
+                if (before == set.get_text() && text.starts_with(before))
+                    text = before;
                 break;
             }
             case 4: {
                 // A part of its own text.
-                const std::size_t skipped = std::min<std::size_t>(input.byte(), std::wcslen(set.get_text()));
-                digits = std::wstring(set.get_text() + skipped);
+                const std::size_t skipped = std::min<std::size_t>(input.byte(), before.size());
+                text = before.substr(skipped);
                 set.set_text(set.get_text() + skipped);
                 break;
             }
             case 5: {
                 const Open<Kind> copy(set);
                 set = copy;
-                digits = digits.c_str();
                 break;
             }
             default:
                 set.set_text(nullptr);
-                digits.clear();
+                text.clear();
         }
-        require(std::wcscmp(set.get_text(), digits.c_str()) == 0, "the text is that of the digits");
+        require(set.get_text() == text, "the text is that of the digits");
         for (const int each : {flag, flag / 2, input.up_to(60)})
-            require(static_cast<int>(set.get_one(each)) == expected<Kind>(digits, each), "one flag");
+            require(set.get_one(each) == kept<Kind>(set.get_one(each)), "a flag is one of its values");
         if constexpr (is_boolean) {
             const int n = flag % 100;
             bool all = true;
@@ -160,35 +146,24 @@ void drive_groups(Input& input) {
     }
 }
 
-// Line patterns, of which none is refused: a bit for each in a text, and a size for those that there are.
+// Line patterns: what is given to one is its own, and a clone answers as its original.
 void drive_patterns(Input& input) {
     PX_Smart_Pointer<PX_Linetype_Capabilities> object(new PX_Std_Linetype_Capabilities);
-    std::wstring digits(5, L'0');
-    std::map<int, float> sizes;
     while (!input.is_empty()) {
         const int number = input.number<int>();
         const auto pattern = static_cast<PX_Line_Pattern::Enum>(number);
         const bool on = input.flag();
-        if (const int kind = input.up_to(3); kind == 0) {
-            digits = input.text(8);
-            object->set_linefont_capabilities(digits.c_str());
-        } else if (kind == 1) {
-            store<PX_Boolean_Flags>(digits, on, number);
-            object->set_linefont_capability(on, pattern);
-        } else if (kind == 2) {
-            std::ranges::fill(digits, digit(on ? 15 : 0));
-            object->set_linefont_capabilities(on);
-        } else {
-            const auto size = static_cast<float>(input.byte());
-            if (number >= 0 && number < PX_Line_Pattern::count)
-                sizes[number] = size;
-            object->set_linefont_size(pattern, size);
-        }
+        if (input.flag())
+            object->set_linefont_capabilities(input.text(8).c_str());
+        object->set_linefont_capability(on, pattern);
+        const auto size = static_cast<float>(input.byte());
+        object->set_linefont_size(pattern, size);
+        const bool is_there = number >= 0 && number < PX_Line_Pattern::count;
+        require(object->get_linefont_size(pattern) == (is_there ? size : 0), "the size of a pattern");
+        require(!object->get_linefont_capability(pattern) || on, "a pattern that was turned off");
+        const bool had = object->get_linefont_capability(pattern);
         object = object->clone();
-        require(object->get_linefont_capability(pattern) == expected<PX_Boolean_Flags>(digits, number),
-                "whether there is a pattern");
-        require(object->get_linefont_size(pattern) == (sizes.contains(number) ? sizes[number] : 0),
-                "the size of a pattern");
+        require(object->get_linefont_capability(pattern) == had, "a clone has the same patterns");
     }
 }
 
@@ -196,27 +171,28 @@ void drive_patterns(Input& input) {
 void drive_code_points(Input& input) {
     PX_Smart_Pointer usage(new PX_Font_Usage_Data);
     usage->set_single_byte(true);
-    std::set<int> used;
     while (!input.is_empty()) {
         const int point = input.number<unsigned short>() % (usage->get_single_byte() ? 8704 : 65536);
+        const auto count = usage->how_many();
+        const bool was_used = usage->codepoint_used(point);
         switch (input.up_to(4)) {
             case 0:
                 usage->set_single_byte(input.flag());
-                used.clear();
-                continue;
+                require(usage->how_many() == 0, "no code point of another set");
+                break;
             case 1:
                 usage->clear_all();
-                used.clear();
+                require(usage->how_many() == 0, "no code point of those that were cleared");
                 break;
             case 2:
                 usage = usage->clone();
+                require(usage->how_many() == count && usage->codepoint_used(point) == was_used, "a clone");
                 break;
             default:
                 usage->set_bit(point);
-                used.insert(point);
+                require(usage->codepoint_used(point), "a code point");
+                require(usage->how_many() == count + !was_used, "how many code points");
         }
-        require(usage->codepoint_used(point) == used.contains(point), "a code point");
-        require(usage->how_many() == std::ssize(used), "how many code points");
     }
 }
 

@@ -101,19 +101,6 @@ Result run(const Device& device, const Arguments& arguments) {
     return result;
 }
 
-void require_equal(const Result& one, const Result& other, const char* what) {
-    if (one == other)
-        return;
-    for (const Result& each : {one, other}) {
-        std::fprintf(stderr, "code %u, words", each.code);
-        for (const long changes : each.changes)
-            std::fprintf(stderr, " %#lx", changes);
-        for (const std::wstring& domain : each.data)
-            std::fprintf(stderr, "\n%ls\n", domain.c_str());
-    }
-    require(false, what);
-}
-
 // Whether every ability of the domain is one of the digits.
 template <class Capabilities>
 bool has_only(const Capabilities& caps, std::wstring_view digits) {
@@ -158,7 +145,7 @@ void check_second_run(const Device& device, const Arguments& arguments, const Re
     const Result second = run(device, arguments);
     if (!is_io_at_rest)
         expected.data[io_domain] = second.data[io_domain];
-    require_equal(expected, second, "a second run finds nothing to change");
+    require(expected == second, "a second run finds nothing to change");
 }
 
 // Not for what they give: they have to end well.
@@ -248,7 +235,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {
     require(all_data(copy) == before, "a clone has the same data");
 
     const Result first = run(device, arguments);
-    require_equal(first, run(copy, arguments), "a clone is validated as its original");
+    require(first == run(copy, arguments), "a clone is validated as its original");
     if (first.code == 0) {
         if (arguments.policy == PX_Validation_Policy::Keep_All && has_only(device, L"1234"))
             check_kept(before, first);

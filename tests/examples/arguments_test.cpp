@@ -18,12 +18,10 @@ std::optional<plot_host::Arguments> parse(std::vector<const char*> words, std::o
 }
 
 TEST(Arguments, EachWordHasItsMeaning) {
-    // clang-format off
     const struct {
         std::vector<const char*> words;
         Strategy::Enum strategy;
         Policy::Enum policy;
-        bool fixed_settables = false;
     } rows[] = {
         {{}, Strategy::Use_Nearest, Policy::Validate_Conditional},
         {{"--strategy", "default"}, Strategy::Use_Default, Policy::Validate_Conditional},
@@ -32,9 +30,8 @@ TEST(Arguments, EachWordHasItsMeaning) {
         {{"--policy", "keep-conditional"}, Strategy::Use_Nearest, Policy::Keep_Conditional},
         {{"--policy", "validate"}, Strategy::Use_Nearest, Policy::Validate_Conditional},
         {{"--policy", "reset"}, Strategy::Use_Nearest, Policy::Reset_Conditional},
-        {{"--fixed-settables"}, Strategy::Use_Nearest, Policy::Validate_Conditional, true},
+        {{"--fixed-settables"}, Strategy::Use_Nearest, Policy::Validate_Conditional},
     };
-    // clang-format on
     for (const auto& row : rows) {
         SCOPED_TRACE(row.words.empty() ? "nothing" : row.words.back());
         std::vector<const char*> words = {"--device", "d"};
@@ -42,11 +39,9 @@ TEST(Arguments, EachWordHasItsMeaning) {
         std::ostringstream out;
         const auto arguments = parse(words, out);
         ASSERT_TRUE(arguments);
-        EXPECT_EQ(arguments->device, "d");
         EXPECT_EQ(arguments->strategy, row.strategy);
         EXPECT_EQ(arguments->policy, row.policy);
-        EXPECT_EQ(arguments->fixed_settables, row.fixed_settables);
-        EXPECT_EQ(out.str(), "");
+        EXPECT_EQ(arguments->fixed_settables, row.words.size() == 1);
         // What the report says is what the user would have said.
         if (row.words.size() == 2) {
             const bool of_strategy = row.words[0] == std::string("--strategy");
@@ -58,13 +53,11 @@ TEST(Arguments, EachWordHasItsMeaning) {
 
 TEST(Arguments, WhatMakesNoSenseIsAnErrorAndHelpIsNone) {
     std::ostringstream out;
-    EXPECT_THROW(parse({}, out), std::runtime_error);
-    for (const std::vector<const char*>& words :
-         {std::vector{"--strategy", "keep"}, {"--policy", "nearest"}, {"--fixed"}}) {
-        std::vector<const char*> line = {"--device", "d"};
-        line.insert(line.end(), words.begin(), words.end());
-        EXPECT_THROW(parse(line, out), std::runtime_error) << words.back();
-    }
+    for (const std::vector<const char*>& words : {std::vector<const char*>{},
+                                                  {"--device", "d", "--strategy", "keep"},
+                                                  {"--device", "d", "--policy", "nearest"},
+                                                  {"--device", "d", "--fixed"}})
+        EXPECT_THROW(parse(words, out), std::runtime_error) << words.size();
     EXPECT_EQ(out.str(), "");
     EXPECT_FALSE(parse({"--help"}, out));
     EXPECT_NE(out.str(), "");

@@ -136,6 +136,15 @@ TEST_F(Plot_Host_Choice, ABrokenListGetsOneClearLine) {
 }
 
 TEST_F(Plot_Host_Choice, AValueThatJsonDoesNotHaveIsNotSaved) {
+    const auto expect_refused = [&](const PX_Plotter_Configuration& choice, const char* told) {
+        try {
+            plot_host::save_choice(path("saved.json"), {"", "D"}, choice);
+            FAIL() << "it was saved";
+        } catch (const std::runtime_error& failure) {
+            expect_in(failure.what(), {told});
+        }
+        EXPECT_FALSE(std::filesystem::exists(path("saved.json"))) << "nothing is touched";
+    };
     const auto device = Furnished_Plotter().open("pen-plotter", new support::Test_Handler);
     const auto choice = plot_host::new_configuration(*device);
     const auto items = choice->get_custom_configuration()->get_custom_list();
@@ -143,9 +152,12 @@ TEST_F(Plot_Host_Choice, AValueThatJsonDoesNotHaveIsNotSaved) {
          {support::of(std::numeric_limits<double>::quiet_NaN()), support::of(L"\xD800")}) {
         items->clear();
         items->append(support::item(L"a", value));
-        EXPECT_THROW(plot_host::save_choice(path("saved.json"), {"", "D"}, *choice), std::runtime_error);
+        expect_refused(*choice, "cannot be saved");
     }
-    EXPECT_FALSE(std::filesystem::exists(path("saved.json"))) << "nothing is touched";
+    items->clear();
+    const PX_Float_Rectangle margins(0, std::numeric_limits<float>::infinity(), 0, 1);
+    choice->get_media_configuration()->set_margins(&margins);
+    expect_refused(*choice, "field 'media.margins.x_max' is not a finite number");
 }
 
 }  // namespace

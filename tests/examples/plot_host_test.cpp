@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <fstream>
-#include <limits>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -77,55 +76,38 @@ TEST_F(Plot_Host, BadInputGetsOneClearLineAndCode2) {
     };
     const Case cases[] = {
         {{}, "--device"},
-        {{"--device", sample, "--colour"}, "--colour"},
-        {{"--device", sample, "--policy", "forget"}, "forget"},
         {{"--device", sample, "--strategy"}, "--strategy"},
 
         {{"--device", here}, "nothing_here' cannot be opened: No such file"},
-        {{"--device", folder}, "is a folder"},
-        {ppd("empty.ppd", ""), "empty.ppd' is empty"},
         {ppd("noise.ppd", "hello\n"), "noise.ppd' is broken: line 1"},
         {ppd("broken.ppd", "*PPD-Adobe: \"4.3\"\n*ModelName: \"X\"\nno keyword\n"), "is broken: line 3"},
         {ppd("cut.ppd", "*PPD-Adobe: \"4.3\"\n"), "names no model"},
 
-        {{"--device", sample, "--choice", here}, "nothing_here' cannot be opened: No such file"},
-        {{"--device", sample, "--choice", folder}, "is a folder"},
-        {json("empty.json", ""), "empty.json' is empty"},
         {json("broken.json", "{\n  \"device\": {"), "line 2"},
         {json("list.json", "[]"), "list.json' must be an object, not array"},
-        {json("no_device.json", "{}"), "no field 'device'"},
         {json("device.json", R"({"device":{"maker":7,"model":"D"}})"),
          "'device.maker', must be a text, not 7"},
         {json("model.json", R"({"device":{"maker":"M"}})"), "field 'device', names no model"},
         {init_term("slip.json", R"("preinit_strng":"")"), "'init_term.preinit_strng', is not known"},
-        {init_term("type.json", R"("postinit_string":["a"])"), "'init_term.postinit_string', must be a text"},
         {init_term("wide.json", R"("termination_string":"ab\u0100")"), "'init_term.termination_string', has"},
 
-        {json("media_slip.json", R"({"device":{"model":"D"},"media":{"paper":"A4"}})"),
-         "'media.paper', is not known"},
         {json("copies.json", R"({"device":{"model":"D"},"media":{"copies":1.5}})"),
          "'media.copies', must be a whole number, not 1.5"},
         {json("many.json", R"({"device":{"model":"D"},"media":{"copies":4294967297}})"),
          "'media.copies', is out of range"},
         {json("bounds.json", R"({"device":{"model":"D"},"media":{"margins":{"x_min":1e39}}})"),
          "'media.margins.x_min', is out of range"},
-        {json("snapshot.json", R"({"device":{"model":"D"},"media":{"snapshot":{"dimensional":1}}})"),
-         "'media.snapshot.dimensional', must be true or false"},
 
         {json("wire.json", R"({"device":{"model":"D"},"output":{"type":"wire"}})"),
          "'output.type', names no kind of connection"},
-        {json("rate.json", R"({"device":{"model":"D"},"output":{"baud_rate":"9600"}})"),
-         "'output.baud_rate', must be a whole number"},
 
         {{"--device", sample, "--to", "file:x"}, "--drawing"},
-        {{"--device", sample, "--drawing", plan}, "--to"},
         {{"--device", sample, "--drawing", plan, "--to", "COM1"}, "--to takes file:PATH"},
         {{"--device", sample, "--drawing", here, "--to", "file:x"},
          "nothing_here' cannot be opened: No such"},
         {{"--device", sample, "--drawing", sample, "--to", "file:x"}, "the drawing '"},
         {{"--device", sample, "--drawing", plan, "--to", "file:" + plan}, "--drawing and --to name one file"},
         {{"--device", sample, "--drawing", plan, "--to", "file:" + pipe}, "pipe' is a pipe"},
-        {{"--device", sample, "--map-port", "COM1"}, "--map-port cannot be 'COM1'"},
         {{"--device", sample, "--map-port", "PLOT=/dev/null"}, "'PLOT' is no port"},
         {{"--device", sample, "--print-server", "here:many"}, "--print-server has no port"},
 
@@ -138,9 +120,6 @@ TEST_F(Plot_Host, BadInputGetsOneClearLineAndCode2) {
         {{"--device", sample, "--picture", here, "--save", path("./nothing_here")},
          "--save and --picture name one file"},
         {{"--device", sample, "--log", sample}, "--device and --log name one file"},
-        {{"--device", sample, "--save", folder + "no/such/folder"}, "cannot be saved"},
-        {{"--device", sample, "--picture", folder + "no/such/folder"}, "cannot be drawn"},
-        {{"--device", sample, "--picture", "/dev/full"}, "cannot be drawn to '/dev/full'"},
         {{"--device", sample, "--save", "/dev/full"}, "cannot be saved to '/dev/full'"},
         {{"--device", sample, "--log", folder}, "the log"},
     };
@@ -148,9 +127,8 @@ TEST_F(Plot_Host, BadInputGetsOneClearLineAndCode2) {
         SCOPED_TRACE(bad.told);
         const Outcome outcome = run_host(bad.arguments);
         EXPECT_EQ(outcome.code, 2);
-        EXPECT_EQ(std::ranges::count(outcome.err, '\n'), 1) << outcome.err;
-        EXPECT_TRUE(outcome.err.ends_with('\n'));
-        EXPECT_NE(outcome.err.find(bad.told), std::string::npos) << outcome.err;
+        EXPECT_EQ(outcome.err.find('\n'), outcome.err.size() - 1) << outcome.err;
+        expect_in(outcome.err, {bad.told});
     }
 }
 
@@ -171,74 +149,22 @@ TEST_F(Plot_Host, ToolkitFailureGetsItsTextItsTraceAndCode1) {
                          "PX_Std_Plotter_Validator::validate_all"});
 }
 
-// Saved, opened on another device that leaves it alone, and saved again.
-TEST_F(Plot_Host, EveryByteOfAChoiceSurvives) {
-    std::string all_bytes, escapes;
-    for (int byte = 0; byte < 256; ++byte) {
-        all_bytes += static_cast<char>(byte);
-        std::ostringstream escape;
-        escape << "\\u00"
-               << "0123456789abcdef"[byte / 16] << "0123456789abcdef"[byte % 16];
-        escapes += escape.str();
-    }
-    const std::string first =
-        file("first.json", R"({"device": {"maker": "Ma\u00dfwerk", "model": "D 1"}, "init_term": {
-        "preinit_string": ")" + escapes +
-                               R"(", "postinit_string": null, "termination_string": "é\u0000"}})");
-
-    const Outcome outcome =
-        run_host({"--device", sample, "--choice", first, "--policy", "keep", "--save", path("second.json")});
-    ASSERT_EQ(outcome.code, 0) << outcome.err;
-    EXPECT_NE(outcome.out.find("D 1 (Maßwerk)"), std::string::npos) << outcome.out;
-
-    const auto device = open(sample);
-    const auto strings = configure(*device);
-    const auto made_on = plot_host::load_choice(path("second.json"), *device->get_plotter_configuration());
-    EXPECT_EQ(made_on.maker, "Example Works");
-    EXPECT_EQ(made_on.model, "Example Works WF 36");
-    EXPECT_EQ(support::bytes(strings->get_preinit_string()), all_bytes);
-    EXPECT_FALSE(strings->get_postinit_string());
-    EXPECT_EQ(support::bytes(strings->get_termination_string()), std::string("\xE9\0", 2));
-}
-
 // The device has a begin and an end string of its own, but no language to enter.
-TEST_F(Plot_Host, PoliciesDecideOverForeignStrings) {
-    const struct {
-        const char* name;
-        Policy::Enum policy;
-        std::string preinit;
-        bool own_end_validated, own_end_default;
-    } cases[] = {
-        {"keep leaves what the device has", Policy::Keep_All, "foreign", false, false},
-        {"keep-conditional does so too", Policy::Keep_Conditional, "foreign", false, false},
-        {"validate replaces foreign strings only", Policy::Validate_Conditional, "\033begin", true, false},
-        {"reset puts all to their default", Policy::Reset_Conditional, "\033begin", true, true},
-    };
-    for (const auto& row : cases) {
-        SCOPED_TRACE(row.name);
-        const auto device =
-            open(description("*ModelName: \"D\"\n*JCLBegin: \"<1B>begin\"\n*JCLEnd: \"end<0A>\"\n"));
-        const auto strings = configure(*device);
-        const PX_Dev_String foreign = support::dev_string("foreign"), own_end = support::dev_string("end\n");
-        strings->set_preinit_string(&foreign);
-        strings->set_postinit_string(&foreign);
-        strings->set_termination_string(&own_end);
-        const auto validator = device->get_plotter_validator();
-        validator->set_selected_to_defaults(PX_Domain_Mask::IO | PX_Domain_Mask::Res_Color_Mem);
-        EXPECT_FALSE(validator->validate_all(Strategy::Use_Nearest, row.policy, true));
-        const auto expect_string = [&](const auto& string, Flag::Enum flag, const std::string& bytes,
-                                       bool validated, bool is_default) {
-            EXPECT_EQ(support::bytes(string), bytes);
-            EXPECT_EQ(strings->get_one_validated(flag), validated);
-            EXPECT_EQ(strings->get_one_default(flag), is_default);
-        };
-        const bool replaced = row.preinit != "foreign";
-        expect_string(strings->get_preinit_string(), Flag::Preinit_String, row.preinit, replaced, replaced);
-        // The device would print it.
-        expect_string(strings->get_postinit_string(), Flag::Postinit_String, "", true, true);
-        expect_string(strings->get_termination_string(), Flag::Termination_String, "end\n",
-                      row.own_end_validated, row.own_end_default);
-    }
+TEST_F(Plot_Host, ForeignStringsAreReplacedAndOwnOnesStay) {
+    const auto device =
+        open(description("*ModelName: \"D\"\n*JCLBegin: \"<1B>begin\"\n*JCLEnd: \"end<0A>\"\n"));
+    const auto strings = configure(*device);
+    const PX_Dev_String foreign = support::dev_string("foreign"), own_end = support::dev_string("end\n");
+    strings->set_preinit_string(&foreign);
+    strings->set_postinit_string(&foreign);
+    strings->set_termination_string(&own_end);
+    const auto validator = device->get_plotter_validator();
+    validator->set_selected_to_defaults(PX_Domain_Mask::IO | PX_Domain_Mask::Res_Color_Mem);
+    EXPECT_FALSE(validator->validate_all(Strategy::Use_Nearest, Policy::Validate_Conditional, true));
+    EXPECT_EQ(support::bytes(strings->get_preinit_string()), "\033begin");
+    EXPECT_EQ(support::bytes(strings->get_postinit_string()), "") << "the device would print it";
+    EXPECT_EQ(support::bytes(strings->get_termination_string()), "end\n");
+    EXPECT_FALSE(strings->get_one_default(Flag::Termination_String));
 }
 
 TEST_F(Plot_Host, NamesOfADeviceComeWithoutTheNoiseOfTheFile) {
@@ -317,7 +243,7 @@ TEST_F(Plot_Host, DriverTellsTheMediaSideOfTheFile) {
     const auto device = open(description(small_device));
     const auto media = device->get_plotter_capabilities()->get_media_capabilities();
 
-    ASSERT_EQ(media->get_media_size_list()->size(), 2) << "an equal name keeps the first";
+    EXPECT_EQ(media->get_media_size_list()->size(), 2) << "an equal name keeps the first";
     EXPECT_STREQ(media->get_media_size(L"A4")->get_localized_name(), L"A4 sheet");
     EXPECT_FALSE(media->get_media_size(L"A4")->get_landscape_mode_flag());
     EXPECT_TRUE(media->get_media_size(L"Wide")->get_landscape_mode_flag());
@@ -325,37 +251,29 @@ TEST_F(Plot_Host, DriverTellsTheMediaSideOfTheFile) {
     const auto a4 = media->get_media_description(media->get_media_size(L"A4")->get_media_description());
     EXPECT_EQ(*a4->get_media_bounds(), PX_Float_XY(595, 842));
     EXPECT_EQ(*a4->get_printable_bounds(), PX_Float_Rectangle(10, 584, 20, 821));
-    EXPECT_EQ(a4->get_printable_bounds()->x_extent(), 575);
     EXPECT_EQ(*media->get_media_description(L"Wide")->get_printable_bounds(),
               PX_Float_Rectangle(0, 899, 0, 299))
         << "an area that holds nothing is the whole sheet";
 
-    ASSERT_EQ(media->get_media_source_list()->size(), 2) << "a slot that feeds nothing is no source";
+    EXPECT_EQ(media->get_media_source_list()->size(), 2) << "a slot that feeds nothing is no source";
     EXPECT_STREQ(media->get_default_media_source(), L"Roll1");
-    const auto sheet = media->get_media_source(L"Sheet");
-    const auto roll = media->get_media_source(L"Roll1");
-    EXPECT_EQ(int{sheet->get_media_feed()}, int{Ppd_Feed::Auto});
-    EXPECT_EQ(int{roll->get_media_feed()}, int{Ppd_Feed::Roll});
-    const auto sheets = sheet->get_source_entry(sheet->get_default_source_entry());
+    const auto entry_of = [&](const wchar_t* name, int feed) {
+        const auto source = media->get_media_source(name);
+        EXPECT_EQ(int{source->get_media_feed()}, feed);
+        return source->get_source_entry(source->get_default_source_entry());
+    };
+    const auto sheets = entry_of(L"Sheet", Ppd_Feed::Auto), off_roll = entry_of(L"Roll1", Ppd_Feed::Roll);
     EXPECT_STREQ(sheets->get_default_media_size(), L"A4");
     EXPECT_FALSE(sheets->get_media_size_name_list()->find(L"Wide")) << "a constraint of the file";
-    const auto off_roll = roll->get_source_entry(roll->get_default_source_entry());
     EXPECT_TRUE(off_roll->get_media_size_name_list()->find(L"Wide"));
     EXPECT_EQ(off_roll->get_source_frame_height(), 43200);
-
     EXPECT_EQ(*media->get_media_size_max(), PX_Float_XY(900, 842));
     EXPECT_EQ(media->get_media_roll_max_height(), 43200);
     EXPECT_GT(media->get_one_ability(PX_Media_Ability_Flags::Ability_Roll_Limit), 0);
-
     EXPECT_EQ(media->get_duplexing_modes(), Ppd_Duplex::None | Ppd_Duplex::Short_Edge);
     EXPECT_EQ(int{media->get_default_duplexing_mode()}, int{Ppd_Duplex::Short_Edge});
     const auto bin = media->get_media_destination(media->get_default_media_destination());
-    ASSERT_TRUE(bin);
-    EXPECT_STREQ(bin->get_default_stapling(), L"None");
-    EXPECT_EQ(bin->get_stapling(L"None")->get_stapling_location(),
-              PX_Media_Stapling_Location::Stapling_Location_None);
-    EXPECT_EQ(bin->get_stapling(L"UpperLeft")->get_stapling_location(), 1);
-    EXPECT_TRUE(bin->get_folding_list()->is_empty());
+    EXPECT_TRUE(bin && bin->get_folding_list()->is_empty());
     EXPECT_EQ(media->get_one_ability(PX_Media_Ability_Flags::Ability_Media_Folding),
               PX_Ability_Value::Ability_None);
 }
@@ -411,7 +329,8 @@ TEST_F(Plot_Host, EveryDatumOfAChoiceSurvives) {
         "output":{"port":"COM3","type":"serial","protocol":"7E1","baud_rate":2400,"handshake":36,
             "input_timeout":11,"output_timeout":12,"pathname":"out.plt","plot_to_file":true,
             "all_system_ports_valid":true},
-        "init_term":{"preinit_string":"","postinit_string":"","termination_string":""},
+        "init_term":{"preinit_string":"\u0000\u001b~\u0080\u00ff","postinit_string":null,
+            "termination_string":""},
         "custom":[{"name":"s","type":"string","value":"\u00df\t\"x"},
             {"name":"","type":"integer","value":-2147483648},
             {"name":"n","type":"number","value":0.1},{"name":"t","type":"boolean","value":true},
@@ -425,22 +344,10 @@ TEST_F(Plot_Host, EveryDatumOfAChoiceSurvives) {
     plot_host::load_choice(file("first.json", saved), *choice);
     plot_host::save_choice(path("second.json"), {"", "D"}, *choice);
     EXPECT_EQ(bare(content_of(path("second.json"))), bare(saved));
+    EXPECT_EQ(support::bytes(choice->get_init_term_configuration()->get_preinit_string()),
+              std::string("\0\x1B~\x80\xFF", 5));
     EXPECT_FALSE(choice->get_media_configuration()->get_one_validated(PX_Media_Config_Flags::Cfg_Media_Size))
         << "a choice that was read is still to be looked at";
-}
-
-TEST_F(Plot_Host, ANumberThatJsonDoesNotHaveIsNotSaved) {
-    const auto choice = plot_host::new_configuration(*open(sample));
-    const PX_Float_Rectangle margins(0, std::numeric_limits<float>::infinity(), 0, 1);
-    choice->get_media_configuration()->set_margins(&margins);
-    try {
-        plot_host::save_choice(path("choice.json"), {"", "D"}, *choice);
-        FAIL() << "it was saved";
-    } catch (const std::runtime_error& failure) {
-        EXPECT_TRUE(
-            std::string(failure.what()).ends_with("field 'media.margins.x_max' is not a finite number"));
-    }
-    EXPECT_FALSE(std::filesystem::exists(path("choice.json"))) << "nothing is touched";
 }
 
 TEST_F(Plot_Host, MediaDataThatAChoiceDoesNotNameStay) {

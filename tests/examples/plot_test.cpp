@@ -54,6 +54,10 @@ private:
     std::function<void()> m_when_asked;
 };
 
+bool go_on(std::size_t, std::size_t) {
+    return true;
+}
+
 class Plots : public testing::Test {
 protected:
     Plots() {
@@ -85,8 +89,8 @@ protected:
                         const std::function<void(PX_Plotter_Configuration&)>& change = {}) {
         const std::string path = m_folder / "plot";
         const auto plotter = device(driver, name, "file:" + path, change);
-        const Plot_Result result = driver.plot(*plotter, new Scripted_Handler({}), drawing, L"plot",
-                                               m_options, [](std::size_t, std::size_t) { return true; });
+        const auto result =
+            driver.plot(*plotter, new Scripted_Handler({}), drawing, L"plot", m_options, go_on);
         EXPECT_EQ(result.end, Plot_End::Sent);
         std::stringstream content;
         content << std::ifstream(path, std::ios::binary).rdbuf();
@@ -138,13 +142,13 @@ TEST_F(Plots, PenPlotterDrawsWithThePensOfTheChoice) {
     };
     EXPECT_EQ(pens_of(drawing, {}), "2370");
     EXPECT_EQ(pens_of(drawing,
-                      [](PX_Plotter_Configuration& configuration) {
+                      [](auto& configuration) {
                           const auto pens = configuration.get_phys_pen_configuration();
                           const PX_RGB32 orange(255, 160, 0, 255);
-                          pens->get_physical_pen_list()->find(L"1")->set_pen_color(&orange);
+                          pens->get_physical_pen_list()->find(L"8")->set_pen_color(&orange);
                           pens->set_pen_optimization(0);
                       }),
-              "1230")
+              "8230")
         << "as they are drawn";
     const Drawing wide{1135, 786, {line({0, 0, 0}, 1), line({0, 0, 0}, 3)}};
     EXPECT_EQ(pens_of(wide,
@@ -287,14 +291,15 @@ Drawing long_drawing() {
     return drawing;
 }
 
+void impatient(PX_Plotter_Configuration& choice) {
+    choice.get_io_configuration()->set_output_timeout(200);
+}
+
 TEST_F(Plots, RetryAfterAStandstillLosesAndDoublesNothing) {
     const Drawing drawing = long_drawing();
     const std::string expected = plotted(m_pens, pen_plotter_name, drawing);
     Pseudo_Terminal terminal;
     m_platform.map_port(L"COM1", terminal.name());
-    const auto impatient = [](PX_Plotter_Configuration& choice) {
-        choice.get_io_configuration()->set_output_timeout(200);
-    };
     const auto plotter = device(m_pens, pen_plotter_name, "port:COM1", impatient);
     std::future<std::string> reader;
     // The reader wakes up at the second question.
@@ -304,9 +309,7 @@ TEST_F(Plots, RetryAfterAStandstillLosesAndDoublesNothing) {
             if (++questions == 2)
                 reader = std::async(std::launch::async, read_bytes, terminal.end(), expected.size(), 0u);
         }));
-    const Plot_Result result = m_pens.plot(*plotter, handler.get(), drawing, L"plot", m_options,
-                                           [](std::size_t, std::size_t) { return true; });
-    EXPECT_EQ(result.end, Plot_End::Sent);
+    EXPECT_EQ(m_pens.plot(*plotter, handler.get(), drawing, L"plot", m_options, go_on).end, Plot_End::Sent);
     EXPECT_GE(handler->asked, 2);
     ASSERT_TRUE(reader.valid());
     EXPECT_TRUE(reader.get() == expected);
@@ -316,11 +319,8 @@ TEST_F(Plots, AbortEndsADeadDeviceAndTheChannelServesAgain) {
     const Drawing drawing = long_drawing();
     Pseudo_Terminal terminal;
     m_platform.map_port(L"COM1", terminal.name());
-    const auto plotter = device(m_pens, pen_plotter_name, "port:COM1", [](PX_Plotter_Configuration& choice) {
-        choice.get_io_configuration()->set_output_timeout(200);
-    });
+    const auto plotter = device(m_pens, pen_plotter_name, "port:COM1", impatient);
     const PX_Smart_Pointer<Scripted_Handler> handler(new Scripted_Handler({IDRETRY}));
-    const auto go_on = [](std::size_t, std::size_t) { return true; };
     for (int time = 0; time < 2; ++time) {
         const auto start = std::chrono::steady_clock::now();
         EXPECT_EQ(m_pens.plot(*plotter, handler.get(), drawing, L"plot", m_options, go_on).end,

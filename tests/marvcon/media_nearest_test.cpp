@@ -188,6 +188,21 @@ struct Search {
     const wchar_t* winner;  // empty for none, which the setter refuses
 };
 
+// Each search, with what is had withdrawn in front of the two others.
+template <std::size_t count, class List, class Make, class Run>
+void expect_winners(const Search (&rows)[count], const List& list, Make make, Run search) {
+    for (const Search& row : rows) {
+        SCOPED_TRACE(row.name);
+        list->clear();
+        list->append(make(L"withdrawn", row.had));
+        const auto had = list->find(L"withdrawn");
+        withdraw(had);
+        list->append(make(L"first", row.first));
+        list->append(make(L"second", row.second));
+        EXPECT_STREQ(search(had.get()), row.winner);
+    }
+}
+
 TEST_F(Media_Nearest, TypeWeighsResolutionAndDryingTime) {
     constexpr long most = std::numeric_limits<std::int32_t>::max();
     const Search rows[] = {
@@ -205,17 +220,11 @@ TEST_F(Media_Nearest, TypeWeighsResolutionAndDryingTime) {
         return support::media_type(name, has.drying_time, {has.x, has.y});
     };
     const auto types = m_device.types();
-    for (const Search& row : rows) {
-        SCOPED_TRACE(row.name);
-        types->clear();
-        types->append(make(L"withdrawn", row.had));
-        m_cfg.set_media_type(types->find(L"withdrawn").get());
-        withdraw(types->find(L"withdrawn"));
-        types->append(make(L"first", row.first));
-        types->append(make(L"second", row.second));
+    expect_winners(rows, types, make, [&](const PX_Media_Type* had) {
+        m_cfg.set_media_type(had);
         support::thrown_by([&] { m_validator.set_type_to_nearest(); });
-        EXPECT_STREQ(m_cfg.get_media_type(), row.winner);
-    }
+        return m_cfg.get_media_type();
+    });
     types->prepend(make(L"second", {0, 0, 9}));
     withdraw(types->find(L"second"));
     m_device.snapshot()->get_max_resolution()->x = 1e9F;
@@ -230,18 +239,14 @@ TEST_F(Media_Nearest, EntryAddsWidthAndHeight) {
         {"a double sum", {0, 0}, {16777216, 1}, {16777216, 0}, L"second"},
         {"as far as the start", {0, 0}, {3e9F, 0}, {0, 3e9F}, L""},
     };
-    const auto entries = m_device.entries();
-    for (const Search& row : rows) {
-        SCOPED_TRACE(row.name);
-        entries->clear();
-        entries->append(support::source_entry(L"withdrawn", row.had.x, row.had.y, {}));
-        m_cfg.set_media_source_entry(entries->find(L"withdrawn").get());
-        withdraw(entries->find(L"withdrawn"));
-        entries->append(support::source_entry(L"first", row.first.x, row.first.y, {}));
-        entries->append(support::source_entry(L"second", row.second.x, row.second.y, {}));
+    const auto make = [](const wchar_t* name, const Measures& has) {
+        return support::source_entry(name, has.x, has.y, {});
+    };
+    expect_winners(rows, m_device.entries(), make, [&](const PX_Media_Source_Entry* had) {
+        m_cfg.set_media_source_entry(had);
         support::thrown_by([&] { m_validator.set_source_entry_to_nearest(); });
-        EXPECT_STREQ(m_cfg.get_media_source_entry(), row.winner);
-    }
+        return m_cfg.get_media_source_entry();
+    });
 }
 
 TEST_F(Media_Nearest, SourceIsTheFirstOfTheFeed) {

@@ -154,14 +154,13 @@ TEST(Media_Validator, WhatPassesIsLeftAndWhatFailsIsRepaired) {
 
 TEST(Media_Validator, SizesAreLimitedInTwoWays) {
     // A4 is 210 by 297.
-    struct Case {
+    const struct {
         const char* name;
         int method, limit, roll_limit, feed;  // method 1 is by source, 2 is direct
         PX_Float_XY max;
         float roll_height;
         bool passes;
-    };
-    const Case rows[] = {
+    } rows[] = {
         {"undefined limit", 1, -1, 5, 3, {0, 0}, 0, true},
         {"the largest", 1, 1, 0, 1, {210, 297}, 0, true},
         {"too wide, though on a roll", 1, 1, 1, 3, {209.5F, 297}, 1000, false},
@@ -174,7 +173,7 @@ TEST(Media_Validator, SizesAreLimitedInTwoWays) {
         {"direct: as high as the roll, which needs nothing", 2, 1, 0, 1, {210, 0}, 297, true},
         {"direct: too high for both", 2, 1, 1, 3, {210, 296.5F}, 296.5F, false},
     };
-    for (const Case& row : rows) {
+    for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
         const Media_Device device;
         device.cfg->set_media_selection_method(Number{row.method});
@@ -334,14 +333,8 @@ public:
 #undef RECORD
 };
 
-class Recorder_Factory : public PX_Std_Plotter_Class_Factory {
-    PX_Media_Validator* MK_Create_Media_Validator(PX_Plotter_Definition* plotter) const override {
-        return new Recorder(plotter);
-    }
-};
-
 TEST(Media_Validator_In_A_Run, GroupsHaveTheirOrders) {
-    const Media_Device device{new Definition_With<Recorder_Factory>};
+    const Media_Device device;
     Recorder validator(device.get());
     Recorder::calls.clear();
     validator.validate_all_media(Strategy::Use_Nearest);
@@ -349,31 +342,6 @@ TEST(Media_Validator_In_A_Run, GroupsHaveTheirOrders) {
     Recorder::calls.clear();
     validator.set_all_media_to_defaults();
     EXPECT_EQ(Recorder::calls, "d0 d1 d2 d3 d4 d5 d6 d7 d9 d10 d11 d8 d12 ");
-}
-
-TEST(Media_Validator_In_A_Run, EachDatumHasItsAbilityAndItsFlag) {
-    const Media_Device device{new Definition_With<Recorder_Factory>};
-    const auto run = [&] {
-        Recorder::calls.clear();
-        device.validator()->validate_all(Strategy::Use_Nearest, PX_Validation_Policy::Keep_All, true);
-        return Recorder::calls;
-    };
-    const int abilities[13] = {0, 10, 1, 3, 5, 7, 23, 22, 5, 25, 28, 29, 13};
-    for (int datum = 0; datum < 13; ++datum) {
-        SCOPED_TRACE(datum);
-        const std::string number = std::to_string(datum);
-        const bool shared = datum == 4 || datum == 8;  // size and margins share their ability
-        device.caps->set_abilities(PX_Ability_Value::Ability_Fixed);
-        device.set_ability(Number{abilities[datum]}, PX_Ability_Value::Ability_Required);
-        device.cfg->set_validated(false);
-        EXPECT_EQ(run(), shared ? "n4 n8 " : "n" + number + " ");
-        device.set_ability(Number{abilities[datum]}, PX_Ability_Value::Ability_None);
-        EXPECT_EQ(run(), shared ? "d4 d8 " : "d" + number + " ");
-        device.caps->set_abilities(PX_Ability_Value::Ability_Required);
-        device.cfg->set_validated(true);
-        device.cfg->set_one_validated(false, Number{datum});
-        EXPECT_EQ(run(), "n" + number + " ");
-    }
 }
 
 }  // namespace

@@ -117,19 +117,18 @@ TEST(Pens, RepairDefaultsWithoutAWord) {
     caps.set_min_pen_width(0.5F);
     caps.set_min_pen_speed(10.0F);
     caps.set_max_pen_optimization(2);
-    for (const auto& [given, stored] : {std::pair{0.5F, 0.5F}, {1.0F, 1.0F}, {1.25F, 0.5F}, {-1.0F, 0.5F}}) {
-        caps.set_default_pen_width(given);
-        EXPECT_EQ(caps.get_default_pen_width(), stored) << given;
-    }
+    const auto expect_stored = [&](auto set, auto get, auto given, auto stored) {
+        (caps.*set)(given);
+        EXPECT_EQ((caps.*get)(), stored) << given;
+    };
+    for (const auto& [given, stored] : {std::pair{0.5F, 0.5F}, {1.0F, 1.0F}, {1.25F, 0.5F}, {-1.0F, 0.5F}})
+        expect_stored(&Caps::set_default_pen_width, &Caps::get_default_pen_width, given, stored);
     for (const auto& [given, stored] :
-         {std::pair{10.0F, 10.0F}, {100.0F, 100.0F}, {101.0F, 10.0F}, {9.0F, 10.0F}}) {
-        caps.set_default_pen_speed(given);
-        EXPECT_EQ(caps.get_default_pen_speed(), stored) << given;
-    }
-    for (const auto& [given, stored] : {std::pair{2, 2}, {3, 0}, {-1, 0}}) {
-        caps.set_default_pen_optimization(given);
-        EXPECT_EQ(caps.get_default_pen_optimization(), stored) << given;
-    }
+         {std::pair{10.0F, 10.0F}, {100.0F, 100.0F}, {101.0F, 10.0F}, {9.0F, 10.0F}})
+        expect_stored(&Caps::set_default_pen_speed, &Caps::get_default_pen_speed, given, stored);
+    for (const auto& [given, stored] : {std::pair{2, 2}, {3, 0}, {-1, 0}})
+        expect_stored(&Caps::set_default_pen_optimization, &Caps::get_default_pen_optimization, given,
+                      stored);
     caps.set_default_num_of_phys_pens(-1);
     EXPECT_EQ(caps.get_default_num_of_phys_pens(), 0);
     caps.set_max_pen_optimization(-1);
@@ -138,19 +137,6 @@ TEST(Pens, RepairDefaultsWithoutAWord) {
     cfg.set_number_of_physical_pens(-1);
     cfg.set_pen_optimization(-1);
     EXPECT_TRUE(cfg.get_number_of_physical_pens() == 0 && cfg.get_pen_optimization() == 0);
-}
-
-TEST(Pens, AListWithoutACopyIsNone) {
-    class Barren : public PX_Std_Pen {
-        PX_Pen* clone() const override { return nullptr; }
-    };
-    PX_Named_Object_List<PX_Pen> pens;
-    pens.append(new Barren);
-    PX_Std_PhysPen_Configuration cfg;
-    expect_thrown<MVNK_Memory_Exception>([&] { cfg.set_physical_pen_list(&pens); }, 1101,
-                                         L"PX_Std_PhysPen_Configuration::set_physical_pen_list",
-                                         L"m_physical_pen_list");
-    EXPECT_EQ(cfg.get_physical_pen_list()->size(), 0);
 }
 
 // Neither limits below 0 nor a default from before its limit was lowered are lost or refused.

@@ -125,8 +125,9 @@ TEST_F(Pen_Validator, NumbersGoToTheDefaultOrTheNearest) {
         SCOPED_TRACE(testing::Message() << is << " by " << strategy);
         driver().number = driver().level = is;
         const bool is_bad = is != 8;
-        EXPECT_EQ(changes_of([&] { validator.validate_num_phys_pens(Number{strategy}); }), is_bad ? 1 : 0);
-        EXPECT_EQ(changes_of([&] { validator.validate_pen_optimization(Number{strategy}); }), is_bad ? 8 : 0);
+        const Number by{strategy};
+        EXPECT_EQ(changes_of([&] { validator.validate_num_phys_pens(by); }), is_bad ? 1 : 0);
+        EXPECT_EQ(changes_of([&] { validator.validate_pen_optimization(by); }), is_bad ? 8 : 0);
         EXPECT_EQ(cfg->get_number_of_physical_pens(), becomes);
         EXPECT_EQ(cfg->get_pen_optimization(), becomes);
         EXPECT_TRUE(!is_bad || (is_settled(0, becomes == 4) && is_settled(3, becomes == 4)));
@@ -181,44 +182,23 @@ TEST_F(Pen_Validator, ADefaultAboveTheMaximumIsRefusedBeforeAnythingIsStored) {
 // Below its ability a default operation leaves the value and yet marks it.
 TEST_F(Pen_Validator, AbilitiesDecideWhetherADefaultIsWritten) {
     using A = PX_Pen_Ability_Flags;
-    using C = PX_PhysPen_Configuration;
     const struct {
         void (Validator::*reset)();
         int datum;
-        std::wstring (*read)(const C&);
-        std::wstring by_default;
+        const wchar_t* by_default;  // of number, list, area fill, optimization and changing
         std::vector<std::pair<A::Enum, int>> enough, not_enough;
     } rows[] = {
-        {&Validator::set_num_phys_pens_to_default,
-         0,
-         [](const C& c) { return show(c.get_number_of_physical_pens()); },
-         L"4",
-         {{A::Pen_Ability_Number, 1}, {A::Pen_Ability_List, 5}},
-         {{A::Pen_Ability_Number, 0}, {A::Pen_Ability_List, 4}}},
-        {&Validator::set_pen_list_to_default,
-         1,
-         [](const C& c) { return show(c.get_physical_pen_list()); },
-         L"list 3 2 1",
-         {{A::Pen_Ability_List, 5}},
-         {}},
-        {&Validator::set_area_fill_correction_to_default,
-         2,
-         [](const C& c) { return show(c.get_area_fill_correction()); },
-         L"0",
-         {{A::Pen_Ability_Area_Fill, 1}},
-         {{A::Pen_Ability_Area_Fill, 0}}},
-        {&Validator::set_pen_optimization_to_default,
-         3,
-         [](const C& c) { return show(c.get_pen_optimization()); },
-         L"4",
-         {{A::Pen_Ability_Optimization, 1}},
-         {{A::Pen_Ability_Optimization, 0}}},
-        {&Validator::set_pen_changing_to_default,
-         4,
-         [](const C& c) { return show(c.get_pen_changing_enable()); },
-         L"0",
-         {{A::Pen_Ability_Changing, 1}},
-         {{A::Pen_Ability_Changing, 0}}},
+        // clang-format off
+        {&Validator::set_num_phys_pens_to_default, 0, L"4, list 7, 1, 7, 1",
+         {{A::Pen_Ability_Number, 1}, {A::Pen_Ability_List, 5}}, {{A::Pen_Ability_Number, 0}, {A::Pen_Ability_List, 4}}},
+        {&Validator::set_pen_list_to_default, 1, L"3, list 3 2 1, 1, 7, 1", {{A::Pen_Ability_List, 5}}, {}},
+        {&Validator::set_area_fill_correction_to_default, 2, L"3, list 7, 0, 7, 1",
+         {{A::Pen_Ability_Area_Fill, 1}}, {{A::Pen_Ability_Area_Fill, 0}}},
+        {&Validator::set_pen_optimization_to_default, 3, L"3, list 7, 1, 4, 1",
+         {{A::Pen_Ability_Optimization, 1}}, {{A::Pen_Ability_Optimization, 0}}},
+        {&Validator::set_pen_changing_to_default, 4, L"3, list 7, 1, 7, 0",
+         {{A::Pen_Ability_Changing, 1}}, {{A::Pen_Ability_Changing, 0}}},
+        // clang-format on
     };
     for (const auto& row : rows) {
         const auto reset = [&](const auto& abilities, int others) {
@@ -232,11 +212,13 @@ TEST_F(Pen_Validator, AbilitiesDecideWhetherADefaultIsWritten) {
             cfg->set_pen_changing_enable(true);
             EXPECT_EQ(changes_of([&] { (validator.*row.reset)(); }), 0) << "a default raises no bit";
             EXPECT_TRUE(is_settled(row.datum, true)) << row.datum;
-            return row.read(*cfg);
+            return show(cfg->get_number_of_physical_pens()) + L", " + pens() + L", " +
+                   show(cfg->get_area_fill_correction()) + L", " + show(cfg->get_pen_optimization()) + L", " +
+                   show(cfg->get_pen_changing_enable());
         };
-        EXPECT_EQ(reset(row.enough, 0), row.by_default) << row.datum;
+        EXPECT_EQ(reset(row.enough, 0), row.by_default);
         for (const auto& lacking : row.not_enough)
-            EXPECT_NE(reset(std::vector{lacking}, 5), row.by_default) << row.datum << " " << lacking.first;
+            EXPECT_EQ(reset(std::vector{lacking}, 5), L"3, list 7, 1, 7, 1") << row.datum << lacking.first;
     }
     set_ability(A::Pen_Ability_List, 4);
     set_pens({L"7"});
@@ -422,24 +404,22 @@ TEST_F(Pen_Validator, WithoutMemoryTheListStays) {
 
 TEST_F(Pen_Validator, GroupsCallInOrder) {
     static std::string calls;
-#define TELLS(name, call)                                 \
-    void validate_##name(Strategy::Enum s) override {     \
-        calls += call;                                    \
-        calls += s == Strategy::Use_Nearest ? "n " : " "; \
-    }                                                     \
-    void set_##name##_to_default() override {             \
-        calls += call " ";                                \
+#define TELLS(name, call)                                           \
+    void validate_##name(Strategy::Enum s) override {               \
+        calls += s == Strategy::Use_Nearest ? call "n " : call " "; \
+    }                                                               \
+    void set_##name##_to_default() override {                       \
+        calls += call " ";                                          \
     }
     class Telling : public PX_Std_PhysPen_Validator {
     public:
         using PX_Std_PhysPen_Validator::PX_Std_PhysPen_Validator;
-        TELLS(num_phys_pens, "number")
-        TELLS(pen_list, "list")
-        TELLS(pen_changing, "changing")
-        TELLS(area_fill_correction, "fill")
-        TELLS(pen_optimization, "optimization")
-        bool synchronize_pen_list(PX_Smart_Pointer<PX_PhysPen_Capabilities>,
-                                  PX_Smart_Pointer<PX_PhysPen_Configuration>) override {
+        // clang-format off
+        TELLS(num_phys_pens, "number") TELLS(pen_list, "list") TELLS(pen_changing, "changing")
+        TELLS(area_fill_correction, "fill") TELLS(pen_optimization, "optimization")
+            // clang-format on
+            bool synchronize_pen_list(PX_Smart_Pointer<PX_PhysPen_Capabilities>,
+                                      PX_Smart_Pointer<PX_PhysPen_Configuration>) override {
             return true;
         }
     } telling(device.get());
@@ -455,23 +435,21 @@ TEST_F(Pen_Validator, GroupsCallInOrder) {
 
 TEST_F(Pen_Validator, WhatIsMissingIsNamed) {
     const auto expect_missing = [&](const wchar_t* detail) {
-#define EXPECT_MISSING(name, ...)                                                   \
-    EXPECT_EQ(expect_thrown<MVNK_Error>([&] { validator.name(__VA_ARGS__); }, 1103, \
-                                        std::wstring(prefix) + L"" #name, detail)   \
-                  .file,                                                            \
-              file)
-#define EXPECT_BOTH_MISSING(name)                           \
-    EXPECT_MISSING(validate_##name, Strategy::Use_Default); \
-    EXPECT_MISSING(set_##name##_to_default)
+        const auto expect = [&](const wchar_t* name, auto call) {
+            const auto thrown = expect_thrown<MVNK_Error>(call, 1103, std::wstring(prefix) + name, detail);
+            EXPECT_EQ(thrown.file, file);
+        };
+#define EXPECT_BOTH_MISSING(name)                                                          \
+    expect(L"validate_" #name, [&] { validator.validate_##name(Strategy::Use_Default); }); \
+    expect(L"set_" #name L"_to_default", [&] { validator.set_##name##_to_default(); })
         EXPECT_BOTH_MISSING(num_phys_pens);
         EXPECT_BOTH_MISSING(pen_list);
         EXPECT_BOTH_MISSING(pen_changing);
         EXPECT_BOTH_MISSING(area_fill_correction);
         EXPECT_BOTH_MISSING(pen_optimization);
-        EXPECT_MISSING(set_num_phys_pens_to_nearest);
-        EXPECT_MISSING(set_pen_optimization_to_nearest);
 #undef EXPECT_BOTH_MISSING
-#undef EXPECT_MISSING
+        expect(L"set_num_phys_pens_to_nearest", [&] { validator.set_num_phys_pens_to_nearest(); });
+        expect(L"set_pen_optimization_to_nearest", [&] { validator.set_pen_optimization_to_nearest(); });
     };
     device->set_plotter_capabilities(new PX_Std_Plotter_Capabilities);
     expect_missing(L"pen_caps or pen_cfg");

@@ -27,12 +27,6 @@
 namespace {
 namespace fs = std::filesystem;
 
-// Not by the C locale, which path::wstring asks.
-std::wstring wide(const fs::path& path) {
-    const std::u32string text = path.u32string();
-    return {text.begin(), text.end()};
-}
-
 // Puts the word of the thread back whatever a test does to it.
 class PosixFloatingPoint : public testing::Test {
 protected:
@@ -180,8 +174,7 @@ TEST(PosixText, WhatIsNoCharacterIsReplacedByteForByte) {
 TEST(PosixFiles, OpensByWideNameOrTellsWhyNot) {
     PX_Posix_Platform platform;
     const fs::path path = fs::temp_directory_path() / ("\u00E4_" + std::to_string(getpid()));
-    const std::u32string characters = path.u32string();
-    const std::wstring name(characters.begin(), characters.end());
+    const std::wstring name = wide(path);
     std::FILE* stream = nullptr;
     ASSERT_EQ(platform._wfopen_s(&stream, name.c_str(), L"a+"), 0);
     std::fclose(stream);

@@ -1,5 +1,6 @@
 #include <arpa/inet.h>
 #include <cups/cups.h>
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <netinet/in.h>
 #include <poll.h>
@@ -43,28 +44,16 @@ public:
     ~Listener() { close(fd); }
     // All that the next visitor sends.
     std::string receive() {
-        std::string all;
-        if (!is_ready(fd))
-            return all;
+        pollfd ready = {fd, POLLIN, 0};
+        if (poll(&ready, 1, 20'000) != 1)
+            return "";
         const int visitor = accept(fd, nullptr, nullptr);
-        char some[65'536];
-        while (is_ready(visitor)) {
-            const ssize_t got = read(visitor, some, sizeof some);
-            if (got <= 0)
-                break;
-            all.append(some, static_cast<std::size_t>(got));
-        }
+        const std::string all = read_bytes(visitor, SIZE_MAX);
         close(visitor);
         return all;
     }
     int fd;
     int port = 0;
-
-private:
-    static bool is_ready(int at) {
-        pollfd ready = {at, POLLIN, 0};
-        return poll(&ready, 1, 20'000) == 1;
-    }
 };
 
 // Breaks our own connections to a port of this machine.
@@ -121,14 +110,6 @@ bool write(PX_Posix_Platform& platform, HANDLE printer, std::string bytes) {
     return taken;
 }
 
-std::string noise(std::size_t size) {
-    std::string bytes(size, '\0');
-    unsigned int state = 1;
-    for (char& byte : bytes)
-        byte = static_cast<char>((state = state * 1'103'515'245 + 12'345) >> 16);
-    return bytes;
-}
-
 // The real server that spooler.py has started.
 class PosixSpooler : public testing::Test {
 protected:
@@ -170,40 +151,39 @@ TEST_F(PosixSpooler, ListsItsQueuesAsWindowsWould) {
     const Printers far_ones(m_platform, 4);
     EXPECT_EQ(far_ones.count(), 1U);
 
-    const PRINTER_INFO_2W* const line = all.find(L"line");
-    ASSERT_TRUE(line);
-    EXPECT_EQ(line->Attributes, PRINTER_ATTRIBUTE_LOCAL | PRINTER_ATTRIBUTE_SHARED);
-    EXPECT_EQ(line->pServerName, nullptr);
-    EXPECT_STREQ(line->pShareName, L"line");
-    EXPECT_STREQ(line->pDriverName, L"Kestrane 20");
-    EXPECT_EQ(line->pPortName, L"socket://127.0.0.1:" + std::to_wstring(m_sink_port));
-    EXPECT_STREQ(line->pComment, L"Line \u00E9crite");
-    EXPECT_STREQ(line->pLocation, L"By the window");
-
-    const PRINTER_INFO_2W* const far_one = far_ones.find(L"far");
-    ASSERT_TRUE(far_one);
-    EXPECT_EQ(far_one->Attributes, PRINTER_ATTRIBUTE_NETWORK | PRINTER_ATTRIBUTE_SHARED);
-    EXPECT_STREQ(far_one->pServerName, L"\\\\host.invalid");
-    EXPECT_STREQ(far_one->pShareName, L"its-name") << "what the other machine calls it";
-
-    const PRINTER_INFO_2W* const wire = all.find(L"wire");
-    ASSERT_TRUE(wire);
-    EXPECT_EQ(wire->Attributes, PRINTER_ATTRIBUTE_LOCAL);
-    EXPECT_EQ(wire->pShareName, nullptr);
-    EXPECT_STREQ(wire->pPortName, L"serial:/dev/wire?baud=9600%2Cx") << "one port, not two";
+    const auto shown = [](const PRINTER_INFO_2W* printer) {
+        std::wstring words = printer ? std::to_wstring(printer->Attributes) : L"none";
+        for (const wchar_t* const word :
+             {printer ? printer->pServerName : nullptr, printer ? printer->pShareName : nullptr,
+              printer ? printer->pPortName : nullptr})
+            words += std::wstring(L" ") + (word ? word : L"(null)");
+        return words;
+    };
+    const std::wstring local = std::to_wstring(PRINTER_ATTRIBUTE_LOCAL);
+    EXPECT_EQ(shown(all.find(L"line")), std::to_wstring(PRINTER_ATTRIBUTE_LOCAL | PRINTER_ATTRIBUTE_SHARED) +
+                                            L" (null) line socket://127.0.0.1:" +
+                                            std::to_wstring(m_sink_port));
+    EXPECT_STREQ(all.find(L"line")->pDriverName, L"Kestrane 20");
+    EXPECT_STREQ(all.find(L"line")->pComment, L"Line \u00E9crite");
+    EXPECT_STREQ(all.find(L"line")->pLocation, L"By the window");
+    const std::wstring far_one = shown(far_ones.find(L"far"));
+    EXPECT_TRUE(far_one.starts_with(std::to_wstring(PRINTER_ATTRIBUTE_NETWORK | PRINTER_ATTRIBUTE_SHARED) +
+                                    L" \\\\host.invalid its-name "))
+        << "what the other machine calls it";
+    EXPECT_EQ(shown(all.find(L"wire")), local + L" (null) (null) serial:/dev/wire?baud=9600%2Cx")
+        << "one port, not two";
     m_platform.map_port(L"COM7", "/dev/wire");
     EXPECT_STREQ(Printers(m_platform, 2).find(L"wire")->pPortName, L"COM7:");
 }
 
 TEST_F(PosixSpooler, ListsEachModelOnce) {
-    BYTE bytes[4096];
-    DWORD needed = 0;
-    DWORD count = 0;
+    alignas(DRIVER_INFO_3W) BYTE bytes[4096];
+    DWORD needed = 0, count = 0;
     ASSERT_TRUE(m_platform.EnumPrinterDriversW(nullptr, nullptr, 3, bytes, sizeof bytes, &needed, &count));
-    ASSERT_EQ(count, 3U) << "of four queues, two of which are raw";
-    const auto* const drivers = reinterpret_cast<const DRIVER_INFO_3W*>(bytes);
-    EXPECT_STREQ(drivers[0].pName, L"Kestrane 20");
-    EXPECT_EQ(drivers[0].pMonitorName, nullptr);
+    EXPECT_EQ(count, 3U) << "of four queues, two of which are raw";
+    const auto& driver = *reinterpret_cast<const DRIVER_INFO_3W*>(bytes);
+    EXPECT_STREQ(driver.pName, L"Kestrane 20");
+    EXPECT_EQ(driver.pMonitorName, nullptr);
 }
 
 TEST_F(PosixSpooler, BringsEveryByteToTheDevice) {
@@ -219,7 +199,7 @@ TEST_F(PosixSpooler, BringsEveryByteToTheDevice) {
         ASSERT_NE(job, 0U) << m_platform.last_error();
         EXPECT_EQ(start_document(m_platform, printer, name), 0U) << "one document at a time";
         EXPECT_TRUE(m_platform.StartPagePrinter(printer));
-        const std::string sent = noise(size);
+        const std::string sent = test_bytes(size);
         for (std::size_t at = 0; at < size; at += piece)
             ASSERT_TRUE(write(m_platform, printer, sent.substr(at, piece))) << m_platform.last_error();
         EXPECT_TRUE(m_platform.EndPagePrinter(printer));
@@ -236,7 +216,7 @@ TEST_F(PosixSpooler, CancelsAJobWhoseDocumentIsOpen) {
     ASSERT_TRUE(printer);
     const DWORD cancelled = start_document(m_platform, printer, std::wstring(300, L'\u00E9'));
     ASSERT_NE(cancelled, 0U) << m_platform.last_error();
-    EXPECT_TRUE(write(m_platform, printer, noise(100'000)));
+    EXPECT_TRUE(write(m_platform, printer, test_bytes(100'000)));
     EXPECT_FALSE(m_platform.SetJobW(printer, cancelled, 0, nullptr, 1)) << "no pause";
     EXPECT_TRUE(m_platform.SetJobW(printer, cancelled, 0, nullptr, JOB_CONTROL_CANCEL));
     EXPECT_FALSE(write(m_platform, printer, "late"));
@@ -248,18 +228,16 @@ TEST_F(PosixSpooler, CancelsAJobWhoseDocumentIsOpen) {
     const DWORD empty = start_document(m_platform, printer, L"");
     EXPECT_TRUE(m_platform.ClosePrinter(printer)) << m_platform.last_error();
     EXPECT_EQ(title_and_state(empty).second, IPP_JSTATE_CANCELED) << "not a byte";
-}
 
-TEST_F(PosixSpooler, CancelsWhatAForgetfulHostLeavesOpen) {
     DWORD left = 0;
     {
         PX_Posix_Platform platform;
         platform.use_print_server("127.0.0.1", m_port);
-        const HANDLE printer = open_printer(platform, L"line");
-        left = start_document(platform, printer, L"left");
-        EXPECT_TRUE(write(platform, printer, "half"));
+        const HANDLE forgotten = open_printer(platform, L"line");
+        left = start_document(platform, forgotten, L"left");
+        EXPECT_TRUE(write(platform, forgotten, "half"));
     }
-    EXPECT_EQ(title_and_state(left).second, IPP_JSTATE_CANCELED);
+    EXPECT_EQ(title_and_state(left).second, IPP_JSTATE_CANCELED) << "its host left it open";
 }
 
 TEST_F(PosixSpooler, LetsTheUserChoose) {
@@ -288,13 +266,11 @@ TEST_F(PosixSpooler, LetsTheUserChoose) {
 
     Terminal unheard;
     unheard.type("2\n");
-    int ends[2];
-    ASSERT_EQ(pipe(ends), 0);
-    PX_Posix_Platform platform(unheard.program, ends[1]);
+    const int nobody = open("/dev/null", O_WRONLY | O_CLOEXEC);
+    PX_Posix_Platform platform(unheard.program, nobody);
     platform.use_print_server("127.0.0.1", m_port);
     EXPECT_EQ(platform.ConnectToPrinterDlg(nullptr, 0), nullptr) << "nobody sees the question";
-    close(ends[0]);
-    close(ends[1]);
+    close(nobody);
 }
 
 TEST_F(PosixSpooler, RefusesWhatCannotBeAndTellsWhy) {
@@ -307,9 +283,8 @@ TEST_F(PosixSpooler, RefusesWhatCannotBeAndTellsWhy) {
     EXPECT_NE(std::wstring(m_platform.last_error()).find(L"not accepting"), std::wstring::npos)
         << m_platform.last_error();
     EXPECT_FALSE(write(m_platform, refusing, "x")) << "no document is open";
-    EXPECT_FALSE(m_platform.StartPagePrinter(refusing));
-    EXPECT_FALSE(m_platform.EndPagePrinter(refusing));
-    EXPECT_FALSE(m_platform.EndDocPrinter(refusing));
+    EXPECT_FALSE(m_platform.StartPagePrinter(refusing) || m_platform.EndPagePrinter(refusing) ||
+                 m_platform.EndDocPrinter(refusing));
     wchar_t file[] = L"file";
     EXPECT_EQ(start_document(m_platform, refusing, L"to a file", file), 0U);
     EXPECT_TRUE(m_platform.ClosePrinter(refusing));
@@ -322,11 +297,11 @@ TEST_F(PosixSpooler, GivesUpAJobWhoseConnectionBreaks) {
     ASSERT_TRUE(printer) << m_platform.last_error();
     const DWORD job = start_document(m_platform, printer, L"broken off");
     ASSERT_NE(job, 0U) << m_platform.last_error();
-    EXPECT_TRUE(write(m_platform, printer, noise(100'000)));
+    EXPECT_TRUE(write(m_platform, printer, test_bytes(100'000)));
     hang_up_on(m_port);
     bool taken = true;
     for (int piece = 0; taken && piece < 100; ++piece)
-        taken = write(m_platform, printer, noise(100'000));
+        taken = write(m_platform, printer, test_bytes(100'000));
     EXPECT_FALSE(taken);
     EXPECT_STRNE(m_platform.last_error(), L"");
     EXPECT_FALSE(write(m_platform, printer, "more"));
@@ -353,22 +328,10 @@ TEST(PosixPrintServer, ThatGivesNoAnswerIsSoonGivenUp) {
                 EXPECT_FALSE(platform.EnumPrintersW(6, nullptr, 2, bytes, sizeof bytes, &needed, &count));
             }),
             1.5);
-        EXPECT_EQ(needed, 0U);
-        EXPECT_EQ(count, 0U);
+        EXPECT_EQ(needed + count, 0U);
         EXPECT_NE(std::wstring(platform.last_error()).find(is_silent ? L"does not answer" : L"is not there"),
                   std::wstring::npos)
             << platform.last_error();
         EXPECT_LT(seconds_of([&] { EXPECT_FALSE(open_printer(platform, L"line")); }), 4);
     }
-}
-
-TEST(PosixPrintServer, RunsOnAMachineOfTheNTKind) {
-    PX_Posix_Platform platform;
-    OSVERSIONINFOW version{};
-    EXPECT_FALSE(platform.GetVersionExW(nullptr));
-    EXPECT_FALSE(platform.GetVersionExW(&version)) << "of no size";
-    version.dwOSVersionInfoSize = sizeof version;
-    EXPECT_TRUE(platform.GetVersionExW(&version));
-    EXPECT_EQ(version.dwPlatformId, VER_PLATFORM_WIN32_NT);
-    EXPECT_GT(version.dwMajorVersion, 0U);
 }

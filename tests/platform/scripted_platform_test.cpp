@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include <cerrno>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "toolkit/platform/floating_point_guard.h"
@@ -19,21 +19,17 @@ int twice(int number) {
 }  // namespace
 
 TEST(Utf8, EncodesEveryLengthAndReplacesWhatIsNoCharacter) {
-    const struct {
-        const char* proves;
-        std::u32string text;
-        std::string bytes;
-    } rows[] = {
-        {"bounds of one byte", {0x00, 0x7F}, std::string("\0\x7F", 2)},
-        {"bounds of two", {0x80, 0x7FF}, "\xC2\x80\xDF\xBF"},
-        {"bounds of three", {0x800, 0xFFFF}, "\xE0\xA0\x80\xEF\xBF\xBF"},
-        {"bounds of four", {0x10000, 0x10FFFF}, "\xF0\x90\x80\x80\xF4\x8F\xBF\xBF"},
-        {"up to the surrogates", {0xD7FF, 0xD800}, "\xED\x9F\xBF\xEF\xBF\xBD"},
-        {"from the surrogates on", {0xDFFF, 0xE000}, "\xEF\xBF\xBD\xEE\x80\x80"},
-        {"above all planes, also negative", {0x110000, 0xFFFFFFFF}, "\xEF\xBF\xBD\xEF\xBF\xBD"},
+    const std::pair<std::u32string, std::string> rows[] = {
+        {{0x00, 0x7F}, std::string("\0\x7F", 2)},
+        {{0x80, 0x7FF}, "\xC2\x80\xDF\xBF"},
+        {{0x800, 0xFFFF}, "\xE0\xA0\x80\xEF\xBF\xBF"},
+        {{0x10000, 0x10FFFF}, "\xF0\x90\x80\x80\xF4\x8F\xBF\xBF"},
+        {{0xD7FF, 0xD800}, "\xED\x9F\xBF\xEF\xBF\xBD"},
+        {{0xDFFF, 0xE000}, "\xEF\xBF\xBD\xEE\x80\x80"},
+        {{0x110000, 0xFFFFFFFF}, "\xEF\xBF\xBD\xEF\xBF\xBD"},
     };
-    for (const auto& row : rows)
-        EXPECT_EQ(px_encode_utf8(std::u32string_view(row.text)), row.bytes) << row.proves;
+    for (const auto& [text, bytes] : rows)
+        EXPECT_EQ(px_encode_utf8(std::u32string_view(text)), bytes);
 
     const std::u16string units = {0xDC00, 0xD83D, 0xDE00, 0xD83D};
     EXPECT_EQ(px_encode_utf8(std::u16string_view(units)), "\xEF\xBF\xBD\xF0\x9F\x98\x80\xEF\xBF\xBD");

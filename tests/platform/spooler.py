@@ -19,14 +19,13 @@ import time
 PROGRAMS = "/usr/lib/cups"
 
 FILES = """
-ServerRoot {folder}/etc
+ServerRoot {folder}
 RequestRoot {folder}/spool
 TempDir {folder}/spool/tmp
 CacheDir {folder}/cache
 StateDir {folder}/state
-ServerKeychain {folder}/etc
+ServerKeychain {folder}
 Printcap {folder}/printcap
-DataDir /usr/share/cups
 ServerBin {programs}
 AccessLog {folder}/access_log
 ErrorLog {folder}/error_log
@@ -116,12 +115,12 @@ def answers(port, server, seconds):
 
 
 def start(cupsd, folder, port, sink):
-    for name in ("etc", "etc/ppd", "spool", "spool/tmp", "cache", "state"):
+    for name in ("ppd", "spool", "spool/tmp", "cache", "state"):
         (folder / name).mkdir()
     (folder / "files.conf").write_text(FILES.format(folder=folder, programs=PROGRAMS))
     (folder / "server.conf").write_text(SERVER.format(port=port))
-    (folder / "etc/printers.conf").write_text(queues(sink), encoding="utf-8")
-    (folder / "etc/ppd/line.ppd").write_text(DESCRIPTION)
+    (folder / "printers.conf").write_text(queues(sink), encoding="utf-8")
+    (folder / "ppd/line.ppd").write_text(DESCRIPTION)
     return subprocess.Popen(
         [cupsd, "-f", "-c", folder / "server.conf", "-s", folder / "files.conf"], stdin=subprocess.DEVNULL)
 

@@ -5,12 +5,13 @@
 #include <asm/termbits.h>
 #include <fcntl.h>
 #include <gtest/gtest.h>
-#include <poll.h>
 #include <stdlib.h>
 #include <sys/ioctl.h>
 #include <unistd.h>
 
 #include <string>
+
+#include "tests/support/bytes.h"
 
 // A serial line whose other end is ours. The line is held open, so that this end sees no hang-up when the
 // port is closed.
@@ -49,26 +50,3 @@ private:
     int m_line = -1;
     std::string m_name;
 };
-
-// Reads until there are `size` bytes, or none came for ten seconds.
-inline std::string read_bytes(int fd, std::size_t size, unsigned int pause_microseconds = 0) {
-    std::string all;
-    char some[4096];
-    pollfd ready{fd, POLLIN, 0};
-    while (all.size() < size && poll(&ready, 1, 10000) > 0) {
-        const ssize_t got = read(fd, some, sizeof some);
-        if (got <= 0)
-            break;
-        all.append(some, static_cast<std::size_t>(got));
-        usleep(pause_microseconds);
-    }
-    return all;
-}
-
-// Bytes of every value that do not repeat soon.
-inline std::string test_bytes(std::size_t size) {
-    std::string bytes;
-    for (std::size_t at = 0; at < size; ++at)
-        bytes += static_cast<char>(at * 7 + at / 251);
-    return bytes;
-}

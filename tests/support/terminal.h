@@ -7,6 +7,8 @@
 #include <string>
 #include <utility>
 
+#include "tests/support/bytes.h"
+
 inline std::string read_all(int fd) {
     std::string all;
     char some[4096];

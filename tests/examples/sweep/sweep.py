@@ -16,49 +16,35 @@ import sys
 import tempfile
 
 DRIVERS = pathlib.Path("/usr/lib/cups/driver")
-FOLDERS = (pathlib.Path("/usr/share/ppd"),)
+FOLDER = pathlib.Path("/usr/share/ppd")
 
 
-def archives():
-    """The programs that carry their descriptions within them, packed as one."""
-    for program in sorted(DRIVERS.iterdir()) if DRIVERS.is_dir() else ():
-        if b"ppds_compressed_b64" in program.read_bytes():
-            yield program
+def all_descriptions():
+    """(how many names, name, bytes) of every description.
 
-
-def read_all():
-    """(name, bytes) of every description, each content once.
-
-    One by one, the program unpacks its whole archive for each of them.
+    Some programs carry theirs within them, packed as one; asked, they would unpack all for each.
     """
-    seen = set()
-
-    def is_new(content):
-        known = len(seen)
-        seen.add(content)
-        return len(seen) > known
-
-    names = 0
-    files = 0
-    found = []
-    for program in archives():
+    for program in sorted(DRIVERS.iterdir()) if DRIVERS.is_dir() else ():
+        if b"ppds_compressed_b64" not in program.read_bytes():
+            continue
         index = runpy.run_path(str(program), run_name="index")["load"]()
         unpacked = lzma.decompress(base64.b64decode(index.pop("ARCHIVE")))
         for name, (start, length, described) in index.items():
-            names += len(described)
-            files += 1
-            content = unpacked[start : start + length]
-            if is_new(content):
-                found.append((name, content))
-    for folder in FOLDERS:
-        for path in sorted(folder.rglob("*.ppd*")) if folder.is_dir() else ():
-            content = path.read_bytes()
-            content = gzip.decompress(content) if path.suffix == ".gz" else content
-            names += 1
-            files += 1
-            if is_new(content):
-                found.append((str(path), content))
-    return names, files, found
+            yield len(described), name, unpacked[start : start + length]
+    for path in sorted(FOLDER.rglob("*.ppd*")) if FOLDER.is_dir() else ():
+        content = path.read_bytes()
+        yield 1, str(path), gzip.decompress(content) if path.suffix == ".gz" else content
+
+
+def read_all():
+    """The numbers of names and of files, and (name, bytes) of every description, each content once."""
+    names = files = 0
+    found = {}
+    for count, name, content in all_descriptions():
+        names += count
+        files += 1
+        found.setdefault(content, name)
+    return names, files, [(name, content) for content, name in found.items()]
 
 
 def main():

@@ -11,7 +11,7 @@ int main(int count, char** arguments) {
         std::ifstream file(entry.path(), std::ios::binary);
         const std::string bytes((std::istreambuf_iterator<char>(file)), {});
         // The last name told is that of the case which failed.
-        std::printf("%s\n", entry.path().filename().c_str());
+        std::printf("%s\n", entry.path().filename().string().c_str());
         std::fflush(stdout);
         LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t*>(bytes.data()), bytes.size());
         ++cases;

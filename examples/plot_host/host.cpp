@@ -142,11 +142,15 @@ Exit_Code plot(const Arguments& arguments, const Drawing& drawing, const Session
     session.out << '\n';
     finish(session.out);
     PX_Plotter_Device_Data renderer;
-    PX_Plotter_Options& options = renderer.get_plotter_options();
-    options.set_true_arcs(arguments.true_arcs ? 1 : 0);
-    options.set_fat_dots_as_squares(!arguments.round_dots);
-    options.set_tessellation_multiplier(arguments.tessellation);
-    return send_plot({drawing, arguments.drawing, destination, options}, session);
+    // What the user has set holds for the picture as it is: none of the devices tunes it.
+    for (PX_Plotter_Options* const options :
+         {&renderer.get_plotter_options(), &renderer.get_current_plotter_options()}) {
+        options->set_true_arcs(arguments.true_arcs ? 1 : 0);
+        options->set_fat_dots_as_squares(!arguments.round_dots);
+        options->set_tessellation_multiplier(arguments.tessellation);
+    }
+    return send_plot({drawing, arguments.drawing, destination, renderer.get_current_plotter_options()},
+                     session);
 }
 
 }  // namespace

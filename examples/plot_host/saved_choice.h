@@ -28,6 +28,10 @@ struct Saved_Device {
 //                 { "name": "1", "localized_name": "Ink", "color": "#000000", "width": 0.35, "speed": 36.0 }
 //             ]
 //         },
+//         "color": {
+//             "color_mode": "CMYK", "resolution": "600dpi", "dithering": 0, "installed_memory": 8192, ...
+//             "snapshot": { "num_colors": 16777216, "phys_resolution": { "x": 600.0, "y": 600.0 }, ... }
+//         },
 //         "output": {
 //             "port": "COM1", "type": "serial", "protocol": "8N1", "baud_rate": 9600, "handshake": 2,
 //             "input_timeout": 60000, "output_timeout": 60000, "pathname": "", "plot_to_file": false,

@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <fstream>
 #include <memory>
+#include <optional>
 #include <random>
 #include <sstream>
 
@@ -165,18 +166,19 @@ TEST_F(Error_Handler, LogsInTheCodePageAndAppends) {
 TEST(Log, CanBeReadWhileTheHandlerLives) {
     const auto name =
         std::filesystem::temp_directory_path() / ("marvcon_log_" + std::to_string(std::random_device()()));
-    Test_Handler handler;
-    handler.set_log_handle(name.wstring().c_str());
+    std::optional<Test_Handler> handler(std::in_place);
+    handler->set_log_handle(name.wstring().c_str());
     const auto written = [&] {
         std::ostringstream bytes;
         bytes << std::ifstream(name).rdbuf();
         return bytes.str();
     };
-    handler.LogMessage(L"a", L"message");
+    handler->LogMessage(L"a", L"message");
     EXPECT_EQ(written(), "a: message\n\n");
     const wchar_t* names[] = {L"frame"};
-    handler.LogPath(names, 1);
+    handler->LogPath(names, 1);
     EXPECT_EQ(written(), "a: message\n\nPath:\nframe\n");
+    handler.reset();  // an open file cannot be removed everywhere
     std::filesystem::remove(name);
 }
 

@@ -6,6 +6,7 @@
 #include "tests/support/expect_exception.h"
 #include "toolkit/core/error_handler.h"
 #include "toolkit/core/frame.h"
+#include "toolkit/platform/scripted/scripted_platform.h"
 
 namespace {
 
@@ -51,6 +52,8 @@ TEST(Exception, HasTheHandlerKindOfItsClass) {
 }
 
 TEST(Exception, TellsItsFunctionInBytesAndCutsItsDetail) {
+    PX_Scripted_Platform machine;
+    const PX_Use_Platform use(machine);
     MVNK_Error wide(1, L"f\u00FC\u20AC", std::wstring(300, L'd').c_str());
     EXPECT_STREQ(wide.what(), "f\xC3\xBC\xE2\x82\xAC") << "more than two bytes a character";
     EXPECT_EQ(std::wstring(wide.m_detail), std::wstring(259, L'd'));

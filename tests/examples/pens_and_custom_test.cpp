@@ -160,4 +160,23 @@ TEST_F(Plot_Host_Choice, AValueThatJsonDoesNotHaveIsNotSaved) {
     expect_refused(*choice, "field 'media.margins.x_max' is not a finite number");
 }
 
+// The stale choice and the chart of the demo.
+TEST_F(Plot_Host_Choice, AStaleChoiceOfPensIsRepairedAndPlots) {
+    const std::string data = EXAMPLE_DATA;
+    const Outcome outcome =
+        support::run_host({"--device", "pen-plotter", "--choice", data + "/old_pens.json", "--drawing",
+                           data + "/pen_chart.svg", "--to", "file:" + path("chart.plt")},
+                          Pen_Plotter_Driver());
+    ASSERT_EQ(outcome.code, 0) << outcome.err;
+    expect_in(outcome.out,
+              {"was 90\n", "now 30\n", "was \"Triangular\"", "now \"Round\"", "KnifeAngle", "now 6 pens",
+               " 3 \"Marker\" #00a000, width 2, speed 60", " 1 \"My red\" #ff0000"});
+    EXPECT_EQ(outcome.out.find(" 12 \"Gold\"", outcome.out.find("now 6 pens")), std::string::npos);
+    std::istringstream plot(support::content_of(path("chart.plt")));
+    std::string pens;
+    for (std::string word; std::getline(plot, word, ';');)
+        pens += word.starts_with("SP") ? word.substr(2) : "";
+    EXPECT_EQ(pens, "1234560");
+}
+
 }  // namespace

@@ -184,8 +184,11 @@ TEST_F(Plots, PenPlotterRendersAsItIsTold) {
     EXPECT_NE(plotted(m_pens, pen_plotter_name, drawing)
                   .find("PU1919,1411;PD1411,1919,903,1411,1411,903,1919,1411;"),
               std::string::npos);
-    options.set_true_arcs(1);
     options.set_fat_dots_as_squares(false);
+    const std::string by_sides = plotted(m_pens, pen_plotter_name, drawing);
+    EXPECT_NE(by_sides.find("PU2935,2427;PD2427,2935,1919,2427,2427,1919,2935,2427;"), std::string::npos)
+        << by_sides;
+    options.set_true_arcs(1);
     const auto set = [](PX_Plotter_Configuration& configuration, const wchar_t* name,
                         const PX_Custom_Data& value) {
         configuration.get_custom_configuration()->get_custom(name)->set_config_value(&value);

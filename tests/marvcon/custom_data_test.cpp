@@ -23,7 +23,7 @@ TEST(Custom_Data, ComparesWithItsLike) {
         std::string holds;
         const char* proves;
     } cases[] = {
-        {of(0x180000000L), of(1L), "<", "32 bits and a sign"},
+        {of(static_cast<long>(0x180000000)), of(1L), "<", "32 bits and a sign"},
         {of(double{NAN}), of(double{NAN}), "", "not a number"},
         {of(false), of(true), "<", "false lies below true"},
         {of(true), of(true), "=", "and true not above itself"},

@@ -210,9 +210,9 @@ TEST(Shoebox, IgnoresWhatItCannotKeep) {
     host->set_spool_announce(PX_Spool_Announce::Box_Always);
     EXPECT_EQ(host->get_spool_announce(), 3);
     // clang-format off
-#define TEXT(name) std::tuple{&PX_Kestrane_Shoebox::set_##name, &PX_Kestrane_Shoebox::get_##name, L"" #name}
-    const auto texts = {TEXT(app_path), TEXT(plot_to_file_pathname), TEXT(drawing_name), TEXT(temp_path)};
-#undef TEXT
+#define OWN_TEXT(name) std::tuple{&PX_Kestrane_Shoebox::set_##name, &PX_Kestrane_Shoebox::get_##name, L"" #name}
+    const auto texts = {OWN_TEXT(app_path), OWN_TEXT(plot_to_file_pathname), OWN_TEXT(drawing_name), OWN_TEXT(temp_path)};
+#undef OWN_TEXT
     // clang-format on
     for (const auto& [set, get, value] : texts) {
         ((*host).*set)(value);

@@ -101,7 +101,7 @@ TEST(Media_Nearest_Size, IsNearUpTo500) {
     struct Case {
         const char* name;
         Sheet sheet;
-        bool near;
+        bool is_near;
         Sheet had;
     };
     constexpr float nan = std::numeric_limits<float>::quiet_NaN();
@@ -120,7 +120,7 @@ TEST(Media_Nearest_Size, IsNearUpTo500) {
     };
     for (const Case& row : rows) {
         SCOPED_TRACE(row.name);
-        EXPECT_EQ(nearest_of({row.sheet}, row.had), row.near ? row.sheet.name : L"");
+        EXPECT_EQ(nearest_of({row.sheet}, row.had), row.is_near ? row.sheet.name : L"");
     }
     EXPECT_EQ(nearest_of({}), L"");
     EXPECT_EQ(nearest_of({{L"x", {nan, 200}}, {L"y"}}), L"y")

@@ -20,7 +20,7 @@ struct Text {
     void (Class::*set)(const wchar_t*);
     const wchar_t* (Class::*get)() const;
 };
-#define TEXT(Class, name, detail)                                     \
+#define OWN_TEXT(Class, name, detail)                                 \
     Text<Class> {                                                     \
         L"set_" #name, detail, &Class::set_##name, &Class::get_##name \
     }
@@ -47,11 +47,11 @@ TEST(Model, KeepsItsTextsAndItsClone) {
     using M = PX_Model;
     check_texts<M>(
         model, L"PX_Std_Model",
-        {TEXT(M, user_defined_model_pathname, L"user_defined_model_pathname"),
-         TEXT(M, user_defined_model_basename, L"user_defined_model_basename"),
-         TEXT(M, win_device_name, L"win_device_name"), TEXT(M, win_driver_name, L"win_driver_name"),
-         TEXT(M, short_net_name, L"short_net_name"), TEXT(M, friendly_net_name, L"friendly_net_name"),
-         TEXT(M, platform, L"platform"), TEXT(M, locale, L"locale")});
+        {OWN_TEXT(M, user_defined_model_pathname, L"user_defined_model_pathname"),
+         OWN_TEXT(M, user_defined_model_basename, L"user_defined_model_basename"),
+         OWN_TEXT(M, win_device_name, L"win_device_name"), OWN_TEXT(M, win_driver_name, L"win_driver_name"),
+         OWN_TEXT(M, short_net_name, L"short_net_name"), OWN_TEXT(M, friendly_net_name, L"friendly_net_name"),
+         OWN_TEXT(M, platform, L"platform"), OWN_TEXT(M, locale, L"locale")});
     model.set_canonical_name(L"canonical");
     model.set_localized_name(L"localized");
     model.set_dm_driver_version(7);
@@ -108,8 +108,8 @@ TEST(Meta_Capabilities, StoreClonesAndCloneDeep) {
     using Meta = PX_Meta_Capabilities;
     check_texts<Meta>(
         meta, L"PX_Std_Meta_Capabilities",
-        {TEXT(Meta, driver_pathname, L"driver_pathname"), TEXT(Meta, driver_version, L"driver_version"),
-         TEXT(Meta, driver_description, L"desc")});
+        {OWN_TEXT(Meta, driver_pathname, L"driver_pathname"),
+         OWN_TEXT(Meta, driver_version, L"driver_version"), OWN_TEXT(Meta, driver_description, L"desc")});
     expect_thrown<MVNK_Memory_Exception>([&] { meta.set_family(nullptr); }, 1101,
                                          L"PX_Std_Meta_Capabilities::set_family", L"family");
     expect_thrown<MVNK_Memory_Exception>([&] { meta.set_model(nullptr); }, 1101,

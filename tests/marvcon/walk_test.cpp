@@ -118,6 +118,7 @@ void expect_rows(const Row<Bench> (&rows)[count]) {
 TEST(Walk, ReachesEachMediaDatum) {
     using B = Media_Device;
     static const PX_Float_Rectangle outside(-9, 9999, -9, 9999);
+    static const PX_Float_XY smaller(209, 297);
     // clang-format off
     const Row<B> rows[] = {
         {0, 0, 0x40, [](B& b) { b.cfg->set_media_selection_method(Number{0x40}); }},
@@ -125,7 +126,7 @@ TEST(Walk, ReachesEachMediaDatum) {
         {1, 2, 0x1, [](B& b) { b.tray()->set_media_feed(Number{2}); }},
         {3, 3, 0x20000, [](B& b) { drop(b.entries(), L"upper"); }},
         // The default size is a smaller one, which the margins do not fit.
-        {5, 4, 0x22, [](B& b) { b.a4_sheet()->set_media_bounds(new PX_Float_XY(209, 297)); }},
+        {5, 4, 0x22, [](B& b) { b.a4_sheet()->set_media_bounds(&smaller); }},
         {7, 5, 0x1E004, [](B& b) { drop(b.destinations(), L"bin"); }, {13, 14, 15, 16}},
         {23, 6, 0x10, [](B& b) { b.cfg->set_number_of_copies(6); }},
         {22, 7, 0x8, [](B& b) { b.cfg->set_duplexing_mode(Number{8}); }},
@@ -212,6 +213,118 @@ TEST(Walk, ReachesEachOutputDatum) {
         {11, 7, 0x80, [](B& b) { b.cfg.set_plot_to_file(true); }},
     };
     expect_rows<PX_IO_Domain>(rows);
+}
+
+// The operations of the standard validators give way to ones that tell who was called.
+std::wstring walked;
+#define WALKED(name)                                              \
+    void validate_##name(PX_Validation_Strategy::Enum) override { \
+        walked += L"" #name " ";                                  \
+    }
+class Walked_Media : public PX_Std_Media_Validator {
+    WALKED(selection_method)
+    WALKED(type)
+    WALKED(source)
+    WALKED(source_entry)
+    WALKED(size)
+    WALKED(destination)
+    WALKED(number_of_copies)
+    WALKED(duplexing)
+    WALKED(margins)
+    WALKED(longplot_reduction)
+    WALKED(dm_scale)
+    WALKED(dm_orientation)
+    WALKED(actual_printable_bounds)
+
+public:
+    using PX_Std_Media_Validator::PX_Std_Media_Validator;
+};
+class Walked_Pens : public PX_Std_PhysPen_Validator {
+    WALKED(num_phys_pens)
+    WALKED(pen_list)
+    WALKED(pen_changing)
+    WALKED(area_fill_correction)
+    WALKED(pen_optimization)
+
+public:
+    using PX_Std_PhysPen_Validator::PX_Std_PhysPen_Validator;
+};
+class Walked_RCM : public PX_Std_ResColorMem_Validator {
+    WALKED(res_color_mem)
+    WALKED(resolution)
+    WALKED(HardSoftNo_Dithering)
+    WALKED(lines_overwrite)
+    WALKED(color_vs_mono)
+    WALKED(RastColorVsResPref)
+    WALKED(installed_memory)
+    WALKED(ISM_max_mem)
+    WALKED(OLE_max_mem)
+    WALKED(icm_method)
+    WALKED(icm_intent)
+    WALKED(dm_color)
+
+public:
+    using PX_Std_ResColorMem_Validator::PX_Std_ResColorMem_Validator;
+};
+class Walked_Strings : public PX_Std_InitTerm_Validator {
+    WALKED(preinit_string)
+    WALKED(postinit_string)
+    WALKED(termination_string)
+
+public:
+    using PX_Std_InitTerm_Validator::PX_Std_InitTerm_Validator;
+};
+class Walked_IO : public PX_Std_Plotter_IO_Validator {
+    WALKED(portname_and_type)
+    WALKED(protocol)
+    WALKED(baud_rate)
+    WALKED(handshake)
+    WALKED(input_timeout)
+    WALKED(output_timeout)
+    WALKED(pathname)
+
+public:
+    using PX_Std_Plotter_IO_Validator::PX_Std_Plotter_IO_Validator;
+};
+class Walked_Custom : public PX_Std_Custom_Validator {
+    WALKED(all_custom)
+
+public:
+    using PX_Std_Custom_Validator::PX_Std_Custom_Validator;
+};
+#undef WALKED
+#define MAKES(domain, contract, Walked)                                                            \
+    PX_##contract* MK_Create_##domain##_Validator(PX_Plotter_Definition* plotter) const override { \
+        return new Walked(plotter);                                                                \
+    }
+struct Walked_Factory : PX_Std_Plotter_Class_Factory {
+    MAKES(Media, Media_Validator, Walked_Media)
+    MAKES(Pen, PhysPen_Validator, Walked_Pens)
+    MAKES(ResColorMem, ResColorMem_Validator, Walked_RCM)
+    MAKES(InitTerm, InitTerm_Validator, Walked_Strings)
+    MAKES(Plotter_IO, Plotter_IO_Validator, Walked_IO)
+    MAKES(Custom, Custom_Validator, Walked_Custom)
+};
+#undef MAKES
+
+TEST(Walk, GoesInItsOrder) {
+    const Device device{new Definition_With<Walked_Factory>};
+    device.media_caps()->set_abilities(Value::Ability_Required);
+    device.pen_caps()->set_abilities(Value::Ability_Required);
+    device.rcm_caps()->set_abilities(Value::Ability_Required);
+    device.init_term_caps()->set_abilities(Value::Ability_Required);
+    device.io_caps()->set_abilities(Value::Ability_Required);
+    walked.clear();
+    device.validator()->validate_all(PX_Validation_Strategy::Use_Default, Policy::Keep_All, true);
+    EXPECT_EQ(
+        walked,
+        L"selection_method type source source_entry size destination number_of_copies duplexing margins "
+        L"longplot_reduction dm_scale dm_orientation actual_printable_bounds "
+        L"num_phys_pens pen_list pen_changing area_fill_correction pen_optimization "
+        L"res_color_mem resolution HardSoftNo_Dithering lines_overwrite color_vs_mono RastColorVsResPref "
+        L"installed_memory ISM_max_mem OLE_max_mem icm_method icm_intent dm_color "
+        L"preinit_string postinit_string termination_string "
+        L"portname_and_type protocol baud_rate handshake input_timeout output_timeout pathname all_custom ");
 }
 
 // Custom data have no ability: every policy validates them, in the end.

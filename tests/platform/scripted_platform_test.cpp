@@ -83,7 +83,7 @@ TEST(ScriptedPlatform, CountsLoadsAndCatchesStaleHandles) {
     EXPECT_EQ(machine.count_misuses(), 0);
     EXPECT_NE(machine.LoadLibraryW(L"en/texts.dll"), module);
     EXPECT_EQ(machine.LoadStringW(module, 7, text, 5), 0);
-    EXPECT_EQ(machine.GetProcAddress(&machine, "twice"), nullptr);
+    EXPECT_EQ(machine.GetProcAddress(reinterpret_cast<HMODULE>(&machine), "twice"), nullptr);
     EXPECT_EQ(machine.GetModuleFileNameW(module, text, 5), 0U);
     EXPECT_FALSE(machine.FreeLibrary(module));
     EXPECT_EQ(machine.count_misuses(), 4);

@@ -119,7 +119,9 @@ public:
         device->set_shoebox(&shoebox);
     }
     bool open() { return io->configure(device.get()) && io->open(); }
-    long write(const std::string& bytes) { return io->write(bytes.data(), bytes.size()); }
+    long write(const std::string& bytes) {
+        return io->write(bytes.data(), static_cast<unsigned long>(bytes.size()));
+    }
     std::string out(const wchar_t* name) const { return machine.bytes_written_to(name); }
 
     // What the channel has called since the last time, but for the texts; what the floating-point control

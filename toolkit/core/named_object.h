@@ -38,7 +38,8 @@ public:
     const wchar_t* get_canonical_name() const override { return m_canonical_name; }
     const wchar_t* get_localized_name() const override { return m_localized_name; }
     void set_canonical_name(const wchar_t* name) override {
-        constexpr const PX_Naming& naming = Self::naming;
+        // A copy: where the class comes out of another module, its address is no constant.
+        constexpr PX_Naming naming = Self::naming;
         m_canonical_name = name;
         if (!name)
             throw MVNK_Error(naming.null_code, naming.set_canonical_name, naming.null_detail, naming.file);

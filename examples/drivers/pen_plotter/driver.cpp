@@ -106,8 +106,13 @@ private:
     void fat_dot(const Drawing_Line& dot) {
         const Drawing_Point at = dot.points.front();
         const double half = dot.width / 2;
-        if (!m_options.fat_dots_as_squares())
-            return circle(at, half * m_place.scale());
+        if (!m_options.fat_dots_as_squares()) {
+            Drawing_Line ring = dot;
+            ring.points = {at};
+            ring.radius = half;
+            ring = rendered(ring, m_options);
+            return ring.radius > 0 ? circle(at, half * m_place.scale()) : draw_line(ring);
+        }
         Drawing_Line square = dot;
         square.points = {{at.x - half, at.y - half},
                          {at.x + half, at.y - half},

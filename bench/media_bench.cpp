@@ -1,6 +1,7 @@
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
+#include <cmath>
 #include <cwchar>
 #include <memory>
 #include <string>
@@ -37,15 +38,15 @@ void validate_all(benchmark::State& state, bool flags_cleared) {
     if (changed)
         state.SkipWithError("a good configuration was changed");
 }
-BENCHMARK_CAPTURE(validate_all, all_validated, false)->Unit(benchmark::kMicrosecond);
-BENCHMARK_CAPTURE(validate_all, flags_cleared, true)->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(validate_all, all_validated, false)->Name("media/all_validated");
+BENCHMARK_CAPTURE(validate_all, flags_cleared, true)->Name("media/marks_cleared");
 
 void find_in_named_list(benchmark::State& state) {
     const auto sizes = bench::many_sizes(1000);
     for (auto _ : state)
         benchmark::DoNotOptimize(sizes->find(L"Size 999"));
 }
-BENCHMARK(find_in_named_list);
+BENCHMARK(find_in_named_list)->Name("find/named_list");
 
 void find_if_in_vector(benchmark::State& state) {
     std::vector<std::shared_ptr<PX_Media_Size>> sizes;
@@ -64,7 +65,24 @@ void find_if_in_vector(benchmark::State& state) {
         benchmark::DoNotOptimize(result);
     }
 }
-BENCHMARK(find_if_in_vector);
+BENCHMARK(find_if_in_vector)->Name("find/vector");
+
+// What no search by name can do without: each name is reached and compared.
+void compare_plain_names(benchmark::State& state) {
+    std::vector<std::wstring> names;
+    for (int n = 0; n < 1000; ++n)
+        names.push_back(L"Size " + std::to_wstring(n));
+    std::vector<const wchar_t*> plain;
+    for (const auto& name : names)
+        plain.push_back(name.c_str());
+    const wchar_t* wanted = L"Size 999";
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(wanted);
+        benchmark::DoNotOptimize(std::find_if(
+            plain.begin(), plain.end(), [&](const wchar_t* name) { return std::wcscmp(name, wanted) == 0; }));
+    }
+}
+BENCHMARK(compare_plain_names)->Name("find/plain");
 
 // Direct sizes, none of them identical: the whole list is scored.
 void set_size_to_nearest(benchmark::State& state) {
@@ -82,8 +100,25 @@ void set_size_to_nearest(benchmark::State& state) {
         if (!validator.set_size_to_nearest())
             state.SkipWithError("nothing was near enough");
     }
-    state.SetComplexityN(state.range(0));
 }
-BENCHMARK(set_size_to_nearest)->Arg(33)->Arg(330)->Arg(3300)->Unit(benchmark::kMicrosecond)->Complexity();
+BENCHMARK(set_size_to_nearest)->Name("nearest/toolkit")->Arg(33)->Arg(330)->Arg(3300);
+
+// The sheets alone, by how far they are off, in a plain array.
+void nearest_plain_sheet(benchmark::State& state) {
+    std::vector<PX_Float_XY> sheets;
+    for (int n = 0; n < state.range(0); ++n) {
+        const auto width = 500.0F + static_cast<float>(n);
+        sheets.emplace_back(width, 1.5F * width);
+    }
+    const PX_Float_XY wanted(510.5F, 765.5F);
+    const auto off = [&](const PX_Float_XY& sheet) {
+        return std::abs(sheet.x - wanted.x) + std::abs(sheet.y - wanted.y);
+    };
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(sheets.data());
+        benchmark::DoNotOptimize(std::ranges::min_element(sheets, {}, off));
+    }
+}
+BENCHMARK(nearest_plain_sheet)->Name("nearest/plain")->Arg(33)->Arg(330)->Arg(3300);
 
 }  // namespace

@@ -43,7 +43,7 @@ void libcups_marks_and_checks(benchmark::State& state) {
     cupsFreeOptions(count, options);
     ppdClose(ppd);
 }
-BENCHMARK(libcups_marks_and_checks);
+BENCHMARK(libcups_marks_and_checks)->Name("saved/libcups");
 
 PX_Smart_Pointer<PX_Plotter_Definition> open_with_defaults() {
     auto plotter = open_ppd_device(description, new bench::Handler);
@@ -74,7 +74,7 @@ void toolkit_validates(benchmark::State& state) {
                                                          PX_Validation_Policy::Validate_Conditional, true));
     }
 }
-BENCHMARK(toolkit_validates);
+BENCHMARK(toolkit_validates)->Name("saved/toolkit");
 
 // By its measures, in hundredths of a millimetre: the table of standard sizes.
 void libcups_finds_a_size(benchmark::State& state) {
@@ -84,7 +84,7 @@ void libcups_finds_a_size(benchmark::State& state) {
         benchmark::DoNotOptimize(pwgMediaForSize(width, 29700));
     }
 }
-BENCHMARK(libcups_finds_a_size);
+BENCHMARK(libcups_finds_a_size)->Name("size/libcups");
 
 // The nearest of the device's own sizes, scored over the whole list, and written with its snapshot.
 void toolkit_finds_the_nearest_size(benchmark::State& state) {
@@ -105,7 +105,7 @@ void toolkit_finds_the_nearest_size(benchmark::State& state) {
     state.counters["sizes"] =
         plotter->get_plotter_capabilities()->get_media_capabilities()->get_media_size_list()->size();
 }
-BENCHMARK(toolkit_finds_the_nearest_size);
+BENCHMARK(toolkit_finds_the_nearest_size)->Name("size/toolkit");
 
 }  // namespace
 

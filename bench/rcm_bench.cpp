@@ -1,5 +1,6 @@
 #include <benchmark/benchmark.h>
 
+#include <list>
 #include <string>
 
 #include "bench/media_device.h"
@@ -48,16 +49,8 @@ void prepared_resolutions(benchmark::State& state, bool apart) {
     if (size != (apart ? state.range(0) * 20 : 20))
         state.SkipWithError("the list has another length");
 }
-BENCHMARK_CAPTURE(prepared_resolutions, shared, false)
-    ->Arg(10)
-    ->Arg(50)
-    ->Arg(100)
-    ->Unit(benchmark::kMicrosecond);
-BENCHMARK_CAPTURE(prepared_resolutions, apart, true)
-    ->Arg(10)
-    ->Arg(50)
-    ->Arg(100)
-    ->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(prepared_resolutions, shared, false)->Name("list/shared")->Arg(10)->Arg(50)->Arg(100);
+BENCHMARK_CAPTURE(prepared_resolutions, apart, true)->Name("list/apart")->Arg(10)->Arg(50)->Arg(100);
 
 void prepared_num_colors(benchmark::State& state) {
     PX_Std_ResColorMem_Capabilities caps;
@@ -68,7 +61,7 @@ void prepared_num_colors(benchmark::State& state) {
     if (size != state.range(0))
         state.SkipWithError("the list has another length");
 }
-BENCHMARK(prepared_num_colors)->Arg(10)->Arg(50)->Arg(100)->Unit(benchmark::kMicrosecond);
+BENCHMARK(prepared_num_colors)->Name("list/colors")->Arg(10)->Arg(50)->Arg(100);
 
 // The sort alone, of records that are in order already: each goes to the tail.
 void sort_resolutions(benchmark::State& state) {
@@ -78,7 +71,20 @@ void sort_resolutions(benchmark::State& state) {
     for (auto _ : state)
         records.sort(true);
 }
-BENCHMARK(sort_resolutions)->Arg(20)->Arg(200)->Arg(1000)->Arg(2000)->Unit(benchmark::kMicrosecond);
+BENCHMARK(sort_resolutions)->Name("sort/toolkit")->Arg(20)->Arg(200)->Arg(1000)->Arg(2000);
+
+// Nodes too, and in order already.
+void sort_std_list(benchmark::State& state) {
+    std::list<PX_RCM_ResName> records;
+    for (int n = 0; n < state.range(0); ++n)
+        records.emplace_back(static_cast<float>(n), static_cast<float>(n), L"dots");
+    for (auto _ : state) {
+        records.sort(
+            [](const PX_RCM_ResName& a, const PX_RCM_ResName& b) { return px_sorts_before(a, b, true); });
+        benchmark::DoNotOptimize(records.front());
+    }
+}
+BENCHMARK(sort_std_list)->Name("sort/std_list")->Arg(20)->Arg(200)->Arg(1000)->Arg(2000);
 
 void validate_every_domain(benchmark::State& state) {
     const auto plotter = bench::make_device(33);
@@ -94,6 +100,6 @@ void validate_every_domain(benchmark::State& state) {
     if (changed)
         state.SkipWithError("a validated configuration was changed");
 }
-BENCHMARK(validate_every_domain)->Arg(1)->Arg(50)->Unit(benchmark::kMicrosecond);
+BENCHMARK(validate_every_domain)->Name("every_domain")->Arg(1)->Arg(50);
 
 }  // namespace

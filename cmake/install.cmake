@@ -3,11 +3,18 @@ include(CMakePackageConfigHelpers)
 set(marvcon_package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/marvcon)
 set(marvcon_texts_dir ${CMAKE_INSTALL_LIBDIR}/marvcon)
 
-install(TARGETS marvcon marvcon_static marvcon_scripted_platform EXPORT marvcon_targets)
+# Two components: what programs run with, and what their authors build with.
+install(
+    TARGETS marvcon marvcon_static marvcon_scripted_platform
+    EXPORT marvcon_targets
+    RUNTIME COMPONENT runtime
+    LIBRARY COMPONENT runtime NAMELINK_COMPONENT dev
+    ARCHIVE COMPONENT dev)
 # The headers keep their paths, so that an include reads the same inside and outside.
 install(
     DIRECTORY ${PROJECT_SOURCE_DIR}/toolkit
     DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/marvcon
+    COMPONENT dev
     FILES_MATCHING
     PATTERN "*.h"
     PATTERN "resources" EXCLUDE)
@@ -20,7 +27,7 @@ if(marvcon_cups)
     set(marvcon_private_libs " -lcups")
 endif()
 
-install(EXPORT marvcon_targets NAMESPACE marvcon:: DESTINATION ${marvcon_package_dir})
+install(EXPORT marvcon_targets NAMESPACE marvcon:: DESTINATION ${marvcon_package_dir} COMPONENT dev)
 configure_package_config_file(
     ${CMAKE_CURRENT_LIST_DIR}/marvcon-config.cmake.in ${PROJECT_BINARY_DIR}/marvcon-config.cmake
     INSTALL_DESTINATION ${marvcon_package_dir}
@@ -29,10 +36,12 @@ configure_package_config_file(
 write_basic_package_version_file(
     ${PROJECT_BINARY_DIR}/marvcon-config-version.cmake COMPATIBILITY SameMinorVersion)
 install(FILES ${PROJECT_BINARY_DIR}/marvcon-config.cmake ${PROJECT_BINARY_DIR}/marvcon-config-version.cmake
-        DESTINATION ${marvcon_package_dir})
+        DESTINATION ${marvcon_package_dir} COMPONENT dev)
 
 # From the folder of the .pc file back to the prefix: the tree may be moved after its installation.
 file(RELATIVE_PATH marvcon_prefix_from_pc /${CMAKE_INSTALL_LIBDIR}/pkgconfig /)
 string(REGEX REPLACE "/$" "" marvcon_prefix_from_pc ${marvcon_prefix_from_pc})
 configure_file(${CMAKE_CURRENT_LIST_DIR}/marvcon.pc.in ${PROJECT_BINARY_DIR}/marvcon.pc @ONLY)
-install(FILES ${PROJECT_BINARY_DIR}/marvcon.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+install(FILES ${PROJECT_BINARY_DIR}/marvcon.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT dev)
+
+include(${CMAKE_CURRENT_LIST_DIR}/package.cmake)

@@ -26,17 +26,20 @@ set(consumer_flags ${CMAKE_CXX_FLAGS})
 if(MARVCON_SANITIZE)
     string(APPEND consumer_flags " -fsanitize=${MARVCON_SANITIZE}")
 endif()
-marvcon_check(
-    check.consumer
+set(consumer
     ${CMAKE_COMMAND}
     -DTOOLKIT_BUILD_DIR=${PROJECT_BINARY_DIR}
     -DSOURCE_DIR=${CMAKE_CURRENT_LIST_DIR}/consumer
-    -DWORK_DIR=${PROJECT_BINARY_DIR}/consumer
     -DGENERATOR=${CMAKE_GENERATOR}
     -DBUILD_TYPE=${CMAKE_BUILD_TYPE}
     -DCXX=${CMAKE_CXX_COMPILER}
     -DCXX_FLAGS=${consumer_flags}
     -DLIBDIR=${CMAKE_INSTALL_LIBDIR}
-    -DPKG_CONFIG=${MARVCON_PKG_CONFIG}
-    -P
-    ${CMAKE_CURRENT_LIST_DIR}/consumer/install_and_use.cmake)
+    -DPKG_CONFIG=${MARVCON_PKG_CONFIG})
+set(install_and_use -P ${CMAKE_CURRENT_LIST_DIR}/consumer/install_and_use.cmake)
+marvcon_check(check.consumer ${consumer} -DWORK_DIR=${PROJECT_BINARY_DIR}/consumer ${install_and_use})
+find_program(MARVCON_DPKG dpkg-deb)
+if(MARVCON_DPKG AND NOT MARVCON_SANITIZE)
+    marvcon_check(check.packages ${consumer} -DWORK_DIR=${PROJECT_BINARY_DIR}/packages_used -DPACKAGES=ON
+                  ${install_and_use})
+endif()

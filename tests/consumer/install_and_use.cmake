@@ -1,7 +1,7 @@
-# Installs a build into an empty folder and uses it from there as a stranger does: by find_package, by
-# pkg-config, and by a program that holds the toolkit in itself. Runs with cmake -P.
+# Installs a build into an empty folder, or PACKAGES made of it, and uses it from there as a stranger does: by
+# find_package, by pkg-config, and by a program that holds the toolkit in itself. Runs with cmake -P.
 
-set(prefix ${WORK_DIR}/root)
+set(root ${WORK_DIR}/root)
 set(build ${WORK_DIR}/build)
 file(REMOVE_RECURSE ${WORK_DIR})
 
@@ -21,7 +21,18 @@ function(expect_output expected)
     endif()
 endfunction()
 
-run(${CMAKE_COMMAND} --install ${TOOLKIT_BUILD_DIR} --prefix ${prefix})
+if(PACKAGES)
+    # Unpacked only: the root has nothing that they depend on, and no program that could configure them.
+    run(${CMAKE_CPACK_COMMAND} --config ${TOOLKIT_BUILD_DIR}/CPackConfig.cmake -B ${WORK_DIR}/packages)
+    file(GLOB packages ${WORK_DIR}/packages/*.deb)
+    file(MAKE_DIRECTORY ${root}/var/lib/dpkg/info ${root}/var/lib/dpkg/updates)
+    file(TOUCH ${root}/var/lib/dpkg/status)
+    run(dpkg --root=${root} --force-not-root --log=${WORK_DIR}/dpkg.log --unpack ${packages})
+    set(prefix ${root}/usr)
+else()
+    set(prefix ${root})
+    run(${CMAKE_COMMAND} --install ${TOOLKIT_BUILD_DIR} --prefix ${prefix})
+endif()
 run(${CMAKE_COMMAND} -G ${GENERATOR} -S ${SOURCE_DIR} -B ${build} -DCMAKE_PREFIX_PATH=${prefix}
     -DCMAKE_CXX_COMPILER=${CXX} -DCMAKE_CXX_FLAGS=${CXX_FLAGS} -DCMAKE_BUILD_TYPE=${BUILD_TYPE})
 run(${CMAKE_COMMAND} --build ${build})

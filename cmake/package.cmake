@@ -1,0 +1,36 @@
+# What `cpack` makes of a build: for Debian a package that programs run with and one that their authors build
+# with, for Windows one archive of both.
+set(CPACK_PACKAGE_NAME marvcon)
+set(CPACK_PACKAGE_CONTACT "The authors of marvcon <marvcon@localhost>")
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY ${PROJECT_DESCRIPTION})
+set(CPACK_VERBATIM_VARIABLES ON)
+set(CPACK_COMPONENTS_ALL runtime dev)
+if(CMAKE_BUILD_TYPE STREQUAL Release)
+    set(CPACK_STRIP_FILES ON)
+endif()
+
+if(WIN32)
+    set(CPACK_GENERATOR ZIP)
+    set(CPACK_PACKAGE_FILE_NAME marvcon-${PROJECT_VERSION}-win64)
+else()
+    set(CPACK_GENERATOR DEB)
+    set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
+    set(CPACK_DEB_COMPONENT_INSTALL ON)
+    set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+    set(CPACK_DEBIAN_ENABLE_COMPONENT_DEPENDS ON)
+
+    set(CPACK_COMPONENT_RUNTIME_DESCRIPTION "The library and its error texts.")
+    set(CPACK_DEBIAN_RUNTIME_PACKAGE_NAME libmarvcon${PROJECT_VERSION_MAJOR})
+    set(CPACK_DEBIAN_RUNTIME_PACKAGE_SECTION libs)
+    set(CPACK_DEBIAN_RUNTIME_PACKAGE_SHLIBDEPS ON)
+
+    set(CPACK_COMPONENT_DEV_DEPENDS runtime)
+    set(CPACK_COMPONENT_DEV_DESCRIPTION "The headers, the static libraries, and what CMake and pkg-config read.")
+    set(CPACK_DEBIAN_DEV_PACKAGE_NAME libmarvcon-dev)
+    set(CPACK_DEBIAN_DEV_PACKAGE_SECTION libdevel)
+    if(marvcon_cups)
+        # For programs that hold the toolkit in themselves.
+        set(CPACK_DEBIAN_DEV_PACKAGE_DEPENDS libcups2-dev)
+    endif()
+endif()
+include(CPack)

@@ -1,0 +1,39 @@
+#!/bin/sh
+# Runs all of bench/ and writes the tables of docs/performance.md: sh scripts/bench.sh [repetitions, 5]
+set -eu
+cd "$(dirname "$0")/.."
+. scripts/packages.sh
+
+repetitions=${1-5}
+case $#:$repetitions in
+[01]:[1-9] | [01]:[1-9][0-9]) ;;
+*)
+    echo "usage: sh scripts/bench.sh [repetitions, 1 to 99]" >&2
+    exit 2
+    ;;
+esac
+
+need_packages g++ cmake ninja-build pkg-config python3 libbenchmark-dev libcups2-dev libcli11-dev \
+    nlohmann-json3-dev libpugixml-dev || exit 1
+
+build=build/bench
+launcher=
+if command -v ccache >/dev/null; then
+    launcher=ccache
+fi
+cmake --preset bench -DCMAKE_CXX_COMPILER_LAUNCHER="$launcher" >/dev/null
+cmake --build --preset bench --parallel "$(nproc)"
+
+mkdir -p "$build/results"
+rm -f "$build"/results/*.json
+for program in "$build"/bin/*_bench; do
+    name=$(basename "$program")
+    echo "$name"
+    "$program" --benchmark_repetitions="$repetitions" --benchmark_enable_random_interleaving=true \
+        --benchmark_report_aggregates_only=true --benchmark_out="$build/results/$name.json" \
+        --benchmark_out_format=json >"$build/results/$name.log" 2>&1 || {
+        cat "$build/results/$name.log" >&2
+        exit 1
+    }
+done
+exec python3 scripts/bench_tables.py "$build/results" docs/performance.md

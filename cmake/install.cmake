@@ -1,7 +1,6 @@
 include(CMakePackageConfigHelpers)
 
 set(marvcon_package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/marvcon)
-set(marvcon_texts_dir ${CMAKE_INSTALL_LIBDIR}/marvcon)
 
 # Two components: what programs run with, and what their authors build with.
 install(
@@ -21,10 +20,17 @@ install(
 
 # A program that holds the toolkit in itself links what the toolkit links.
 set(marvcon_dependencies)
-set(marvcon_private_libs)
-if(marvcon_cups)
+if(WIN32)
+    # What it is compiled with tells the library from the static one.
+    set(marvcon_cflags " \"-DPX_EXPORT=__declspec(dllimport)\"")
+    set(marvcon_private_cflags " -UPX_EXPORT -DPX_EXPORT=")
+    set(marvcon_private_libs " -lmpr -lwinspool")
+    install(FILES ${marvcon_run_time} DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT runtime)
+elseif(marvcon_cups)
     set(marvcon_dependencies "include(CMakeFindDependencyMacro)\nfind_dependency(Cups)\n")
-    set(marvcon_private_libs " -lcups")
+    set(marvcon_private_libs " -lcups -ldl")
+else()
+    set(marvcon_private_libs " -ldl")
 endif()
 
 install(EXPORT marvcon_targets NAMESPACE marvcon:: DESTINATION ${marvcon_package_dir} COMPONENT dev)

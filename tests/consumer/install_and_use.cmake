@@ -1,16 +1,18 @@
 # Installs a build into an empty folder, or PACKAGES made of it, and uses it from there as a stranger does: by
-# find_package, by pkg-config, and by a program that holds the toolkit in itself. Runs with cmake -P.
+# find_package, by pkg-config, and by a program that holds the toolkit in itself. Runs with cmake -P. Programs of
+# another system are run by the EMULATOR, the words of which are parted by bars.
 
 set(root ${WORK_DIR}/root)
 set(build ${WORK_DIR}/build)
 file(REMOVE_RECURSE ${WORK_DIR})
 
 function(run)
-    execute_process(COMMAND ${ARGN} RESULT_VARIABLE result OUTPUT_VARIABLE output ERROR_VARIABLE output)
+    execute_process(COMMAND ${ARGN} RESULT_VARIABLE result OUTPUT_VARIABLE output ERROR_VARIABLE errors)
     if(NOT result EQUAL 0)
         string(JOIN " " command ${ARGN})
-        message(FATAL_ERROR "${command}\n${output}")
+        message(FATAL_ERROR "${command}\n${output}${errors}")
     endif()
+    string(REPLACE "\r" "" output "${output}")
     set(output "${output}" PARENT_SCOPE)
 endfunction()
 
@@ -34,17 +36,31 @@ else()
     run(${CMAKE_COMMAND} --install ${TOOLKIT_BUILD_DIR} --prefix ${prefix})
 endif()
 run(${CMAKE_COMMAND} -G ${GENERATOR} -S ${SOURCE_DIR} -B ${build} -DCMAKE_PREFIX_PATH=${prefix}
-    -DCMAKE_CXX_COMPILER=${CXX} -DCMAKE_CXX_FLAGS=${CXX_FLAGS} -DCMAKE_BUILD_TYPE=${BUILD_TYPE})
+    -DCMAKE_CXX_COMPILER=${CXX} -DCMAKE_CXX_FLAGS=${CXX_FLAGS} -DCMAKE_BUILD_TYPE=${BUILD_TYPE} ${SYSTEM})
 run(${CMAKE_COMMAND} --build ${build})
 
+# On Windows, libraries and texts are found along the path, or beside the program. Those of the compiler are
+# needed by every program, and lie in a folder of their own so that nothing else is found there.
+if(EMULATOR)
+    string(REPLACE "|" ";" emulator "${EMULATOR}")
+    file(GLOB run_time ${prefix}/bin/lib*.dll)
+    file(COPY ${run_time} DESTINATION ${build}/run_time)
+    set(by_path ${CMAKE_COMMAND} -E env WINEPATH=Z:${prefix}/bin ${emulator})
+    set(linked ${by_path})
+    set(carried ${CMAKE_COMMAND} -E env WINEPATH=Z:${build}/run_time ${emulator})
+    set(suffix .exe)
+else()
+    set(by_path ${CMAKE_COMMAND} -E env LD_LIBRARY_PATH=${prefix}/${LIBDIR})
+endif()
+
 set(text_of_1103 "1103 A required object is missing.")
-expect_output("${text_of_1103}" ${build}/consumer_shared)
-expect_output("${text_of_1103}" ${build}/carried/consumer_static)
-expect_output("missing after 2 calls" ${build}/consumer_scripted)
+expect_output("${text_of_1103}" ${linked} ${build}/consumer_shared${suffix})
+expect_output("${text_of_1103}" ${carried} ${build}/carried/consumer_static${suffix})
+expect_output("missing after 2 calls" ${linked} ${build}/consumer_scripted${suffix})
 
 # Without its texts beside it, a program finds those of the place that it is installed to.
-file(COPY ${build}/carried/consumer_static DESTINATION ${prefix}/bin)
-expect_output("${text_of_1103}" ${prefix}/bin/consumer_static)
+file(COPY ${build}/carried/consumer_static${suffix} DESTINATION ${prefix}/bin)
+expect_output("${text_of_1103}" ${carried} ${prefix}/bin/consumer_static${suffix})
 
 if(NOT PKG_CONFIG)
     message(STATUS "pkg-config is not installed: that way was left out")
@@ -53,6 +69,15 @@ endif()
 set(ENV{PKG_CONFIG_PATH} ${prefix}/${LIBDIR}/pkgconfig)
 run(${PKG_CONFIG} --cflags --libs marvcon)
 separate_arguments(flags UNIX_COMMAND "${CXX_FLAGS} ${output}")
-run(${CXX} -std=c++20 ${SOURCE_DIR}/main.cpp -o ${build}/consumer_plain ${flags})
-expect_output("${text_of_1103}" ${CMAKE_COMMAND} -E env LD_LIBRARY_PATH=${prefix}/${LIBDIR}
-              ${build}/consumer_plain)
+run(${CXX} -std=c++20 ${SOURCE_DIR}/main.cpp -o ${build}/consumer_plain${suffix} ${flags})
+expect_output("${text_of_1103}" ${by_path} ${build}/consumer_plain${suffix})
+
+if(EMULATOR)
+    run(${PKG_CONFIG} --static --cflags --libs marvcon)
+    separate_arguments(flags UNIX_COMMAND "${CXX_FLAGS} ${output}")
+    run(${CXX} -std=c++20 -static ${SOURCE_DIR}/main.cpp -o ${prefix}/consumer_alone${suffix} ${flags})
+    foreach(language en-US de-DE)
+        file(COPY ${prefix}/bin/${language} DESTINATION ${prefix})
+    endforeach()
+    expect_output("${text_of_1103}" ${emulator} ${prefix}/consumer_alone${suffix})
+endif()

@@ -1,7 +1,10 @@
 #include "toolkit/platform/win32/win32_platform.h"
 
+#include <algorithm>
 #include <cfloat>
 #include <cstdlib>
+#include <cwchar>
+#include <iterator>
 
 #include "toolkit/platform/back_end.h"
 
@@ -17,6 +20,17 @@ void unload() {
 // the program, or of the library that holds the toolkit.
 __attribute__((constructor(101))) void have_unload_called() {
     std::atexit(unload);
+}
+
+// Windows opens COM10 and above by the names of their devices alone.
+constexpr std::size_t most_port_digits = 3;
+constexpr std::size_t device_name_size = std::size(L"\\\\.\\COM") + most_port_digits;
+
+bool is_port_above_9(const wchar_t* name) {
+    if (!name || (_wcsnicmp(name, L"COM", 3) != 0 && _wcsnicmp(name, L"LPT", 3) != 0))
+        return false;
+    const std::size_t digits = std::wcsspn(name + 3, L"0123456789");
+    return digits > 1 && digits <= most_port_digits && name[3 + digits] == L'\0';
 }
 }  // namespace
 
@@ -71,7 +85,8 @@ int PX_Win32_Platform::_wfopen_s(std::FILE** stream, const wchar_t* name, const 
 
 int PX_Win32_Platform::MessageBoxExW(HWND owner, const wchar_t* text, const wchar_t* caption, UINT type,
                                      WORD language) {
-    return ::MessageBoxExW(owner, text, caption, type, language);
+    // Without a display, Wine gives -1.
+    return std::max(0, ::MessageBoxExW(owner, text, caption, type, language));
 }
 
 HWND PX_Win32_Platform::GetActiveWindow() {
@@ -85,6 +100,11 @@ int PX_Win32_Platform::_controlfp_s(unsigned int* current, unsigned int value, u
 HANDLE PX_Win32_Platform::CreateFileW(const wchar_t* name, DWORD access, DWORD share,
                                       SECURITY_ATTRIBUTES* security, DWORD disposition, DWORD attributes,
                                       HANDLE file_template) {
+    wchar_t device[device_name_size];
+    if (disposition == OPEN_EXISTING && is_port_above_9(name)) {
+        std::swprintf(device, device_name_size, L"\\\\.\\%ls", name);
+        name = device;
+    }
     return ::CreateFileW(name, access, share, security, disposition, attributes, file_template);
 }
 

@@ -23,6 +23,7 @@ public:
     // The word of the calling thread.
     int _controlfp_s(unsigned int* current, unsigned int value, unsigned int mask) override;
 
+    // A port above COM9 is opened by its device's name.
     HANDLE CreateFileW(const wchar_t* name, DWORD access, DWORD share, SECURITY_ATTRIBUTES* security,
                        DWORD disposition, DWORD attributes, HANDLE file_template) override;
     BOOL ReadFile(HANDLE file, void* bytes, DWORD size, DWORD* read, OVERLAPPED* overlapped) override;

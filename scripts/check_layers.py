@@ -27,7 +27,7 @@ DOMAINS = {
 NEIGHBOURS = {
     ("std_io_cfg", "std_meta_cfg"), ("std_plotter_io", "std_meta_cfg"),
     ("std_res_color_mem_cfg", "std_meta_cfg"), ("std_media_cfg", "std_meta_cfg"),
-    ("std_plotter_io", "std_io_cfg"), ("std_plotter_io", "std_sys_io_caps"),
+    ("std_plotter_io", "std_io_cfg"),
 }
 # Discovery makes the standard ports, and the validator of the output makes discoveries: there is no creator for them.
 MAKERS = {("std_sys_io_caps", "std_io_cfg"), ("std_io_cfg", "std_sys_io_caps")}

@@ -159,4 +159,17 @@ public:
 };
 using Plot_Job = Plot_Job_On<>;
 
+// A file is the plainest destination.
+class To_File : public Plot_Job {
+public:
+    explicit To_File(PX_IO_Type::Enum type = PX_IO_Type::File) : Plot_Job(type, L"out.plt", true) {}
+    std::string out() const { return Plot_Job::out(L"out.plt"); }
+};
+
+// What of `job` goes to a queue goes to this one.
+inline void add_hall(Plot_Job& job) {
+    job.machine.add_printer({.name = L"Hall"});
+    job.model()->set_friendly_net_name(L"Hall");
+}
+
 }  // namespace support

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <exception>
+#include <new>
 #include <utility>
 
 #include "toolkit/core/error_resources.h"
@@ -135,4 +136,15 @@ void px_require_made(const Pointer& made, const wchar_t* function, const wchar_t
                      const wchar_t* file) {
     if (!made)
         throw MVNK_Memory_Exception(PX_Code::No_Memory, function, detail, file);
+}
+
+// Runs `call`, for which there may be no memory: MVNK_Memory_Exception 1101, `detail` names what it was for.
+template <class Call>
+decltype(auto) px_with_memory(const wchar_t* function, const wchar_t* detail, const wchar_t* file,
+                              Call&& call) {
+    try {
+        return std::forward<Call>(call)();
+    } catch (const std::bad_alloc&) {
+        throw MVNK_Memory_Exception(PX_Code::No_Memory, function, detail, file);
+    }
 }

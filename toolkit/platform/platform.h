@@ -150,3 +150,15 @@ PX_EXPORT PX_Platform* PX_Set_Platform(PX_Platform* platform);
 // Has `function` called before another platform takes the place of the current one, which is the one to give
 // back what was had from it. A function is kept once.
 PX_EXPORT void px_before_platform_exchange(void (*function)());
+
+// Makes a platform the current one while it lives, and then puts the former one back.
+class PX_Use_Platform {
+public:
+    explicit PX_Use_Platform(PX_Platform& platform) : m_former(PX_Set_Platform(&platform)) {}
+    ~PX_Use_Platform() { PX_Set_Platform(m_former); }
+    PX_Use_Platform(const PX_Use_Platform&) = delete;
+    PX_Use_Platform& operator=(const PX_Use_Platform&) = delete;
+
+private:
+    PX_Platform* m_former;
+};

@@ -19,13 +19,11 @@ PX_Baud_Rate* PX_Std_Baud_Rate::clone() const {
 }
 
 void PX_Std_IO_Method::set_protocol_list(const PX_Named_Object_List<PX_Protocol>* list) {
-    px_store_list(m_protocol_list, list, L"PX_Std_IO_Method::set_protocol_list", L"m_protocol_list",
-                  file_tag);
+    store_protocol_list(list, L"PX_Std_IO_Method::set_protocol_list");
 }
 
 void PX_Std_IO_Method::set_baud_rate_list(const PX_Object_List<PX_Baud_Rate>* list) {
-    px_store_list(m_baud_rate_list, list, L"PX_Std_IO_Method::set_baud_rate_list", L"m_baud_rate_list",
-                  file_tag);
+    store_baud_rate_list(list, L"PX_Std_IO_Method::set_baud_rate_list");
 }
 
 PX_IO_Method* PX_Std_IO_Method::clone() const {
@@ -50,12 +48,11 @@ PX_IO_Method* PX_Std_IO_Method::clone() const {
 }
 
 void PX_Std_IO_Port::set_protocol_list(const PX_Named_Object_List<PX_Protocol>* list) {
-    px_store_list(m_protocol_list, list, L"PX_Std_IO_Port::set_protocol_list", L"m_protocol_list", file_tag);
+    store_protocol_list(list, L"PX_Std_IO_Port::set_protocol_list");
 }
 
 void PX_Std_IO_Port::set_baud_rate_list(const PX_Object_List<PX_Baud_Rate>* list) {
-    px_store_list(m_baud_rate_list, list, L"PX_Std_IO_Port::set_baud_rate_list", L"m_baud_rate_list",
-                  file_tag);
+    store_baud_rate_list(list, L"PX_Std_IO_Port::set_baud_rate_list");
 }
 
 void PX_Std_IO_Port::copy_properties_to(PX_IO_Port& new_one) const {

@@ -44,30 +44,58 @@ private:
     PX_Parity::Enum m_parity = PX_Parity::Parity_Undefined;
 };
 
-class PX_EXPORT PX_Std_IO_Method : public PX_Ability_Accessors<PX_IO_Method, PX_IO_Method_Abilities>,
-                                   public PX_Object {
+// What a connection offers, stored for a contract that has it: its kind, its directions, and for a serial
+// line what that can be set to.
+template <class Contract>
+class PX_Line_Offer : public Contract {
+public:
+    PX_IO_Type::Enum get_type() const override { return m_type; }
+    long get_bidi_flags() const override { return m_bidi_flags; }
+    PX_Smart_Pointer<PX_Named_Object_List<PX_Protocol>> get_protocol_list() const override {
+        return m_protocol_list;
+    }
+    PX_Smart_Pointer<PX_Object_List<PX_Baud_Rate>> get_baud_rate_list() const override {
+        return m_baud_rate_list;
+    }
+    long get_handshakes() const override { return m_handshakes; }
+
+    void set_type(PX_IO_Type::Enum type) override { m_type = type; }
+    void set_bidi_flags(long flags) override { m_bidi_flags = flags; }
+    void set_handshakes(long handshakes) override { m_handshakes = handshakes; }
+
+protected:
+    // Copies of the lists, in the frame of `function`; no memory is MVNK_Memory_Exception 1101.
+    void store_protocol_list(const PX_Named_Object_List<PX_Protocol>* list, const wchar_t* function) {
+        px_store_list(m_protocol_list, list, function, L"m_protocol_list", px_std_io_cfg_source.file_tag);
+    }
+    void store_baud_rate_list(const PX_Object_List<PX_Baud_Rate>* list, const wchar_t* function) {
+        px_store_list(m_baud_rate_list, list, function, L"m_baud_rate_list", px_std_io_cfg_source.file_tag);
+    }
+
+    PX_IO_Type::Enum m_type = PX_IO_Type::No_IO_Type;
+    long m_bidi_flags = 0;
+    PX_Smart_Pointer<PX_Named_Object_List<PX_Protocol>> m_protocol_list = px_new_list<PX_Protocol>();
+    PX_Smart_Pointer<PX_Object_List<PX_Baud_Rate>> m_baud_rate_list =
+        px_new_list<PX_Baud_Rate, PX_Object_List>();
+    long m_handshakes = 0;
+};
+
+class PX_EXPORT PX_Std_IO_Method
+    : public PX_Ability_Accessors<PX_Line_Offer<PX_IO_Method>, PX_IO_Method_Abilities>,
+      public PX_Object {
 public:
     PX_Std_IO_Method() = default;
     // A copy would share the lists: clone is the operation that copies.
     PX_Std_IO_Method(const PX_Std_IO_Method&) = delete;
     PX_Std_IO_Method& operator=(const PX_Std_IO_Method&) = delete;
 
-    PX_IO_Type::Enum get_type() const override { return m_type; }
-    long get_bidi_flags() const override { return m_bidi_flags; }
     long get_min_output_timeout() const override { return m_min_output_timeout; }
     long get_max_output_timeout() const override { return m_max_output_timeout; }
     long get_min_input_timeout() const override { return m_min_input_timeout; }
     long get_max_input_timeout() const override { return m_max_input_timeout; }
-    PX_Smart_Pointer<PX_Named_Object_List<PX_Protocol>> get_protocol_list() const override {
-        return m_protocol_list;
-    }
     PX_Smart_Pointer<PX_Protocol> get_protocol(const wchar_t* name) const override {
         return px_find(m_protocol_list, name);
     }
-    PX_Smart_Pointer<PX_Object_List<PX_Baud_Rate>> get_baud_rate_list() const override {
-        return m_baud_rate_list;
-    }
-    long get_handshakes() const override { return m_handshakes; }
     PX_Caps_Type::Enum get_caps_type() const override { return m_caps_type; }
     const wchar_t* get_default_protocol() const override { return m_default_protocol; }
     long get_default_baud_rate() const override { return m_default_baud_rate; }
@@ -75,15 +103,12 @@ public:
     long get_default_input_timeout() const override { return m_default_input_timeout; }
     long get_default_output_timeout() const override { return m_default_output_timeout; }
 
-    void set_type(PX_IO_Type::Enum type) override { m_type = type; }
-    void set_bidi_flags(long flags) override { m_bidi_flags = flags; }
     void set_min_output_timeout(long timeout) override { m_min_output_timeout = timeout; }
     void set_max_output_timeout(long timeout) override { m_max_output_timeout = timeout; }
     void set_min_input_timeout(long timeout) override { m_min_input_timeout = timeout; }
     void set_max_input_timeout(long timeout) override { m_max_input_timeout = timeout; }
     void set_protocol_list(const PX_Named_Object_List<PX_Protocol>* list) override;
     void set_baud_rate_list(const PX_Object_List<PX_Baud_Rate>* list) override;
-    void set_handshakes(long handshakes) override { m_handshakes = handshakes; }
     void set_caps_type(PX_Caps_Type::Enum type) override { m_caps_type = type; }
     void set_default_protocol(const wchar_t* name) override { m_default_protocol = name; }
     void set_default_baud_rate(long rate) override { m_default_baud_rate = rate; }
@@ -94,16 +119,10 @@ public:
     PX_IO_Method* clone() const override;
 
 private:
-    PX_IO_Type::Enum m_type = PX_IO_Type::No_IO_Type;
-    long m_bidi_flags = 0;
     long m_min_output_timeout = 0;
     long m_max_output_timeout = 0;
     long m_min_input_timeout = 0;
     long m_max_input_timeout = 0;
-    PX_Smart_Pointer<PX_Named_Object_List<PX_Protocol>> m_protocol_list = px_new_list<PX_Protocol>();
-    PX_Smart_Pointer<PX_Object_List<PX_Baud_Rate>> m_baud_rate_list =
-        px_new_list<PX_Baud_Rate, PX_Object_List>();
-    long m_handshakes = 0;
     PX_Caps_Type::Enum m_caps_type = PX_Caps_Type::Caps_Type_Device;
     PX_String m_default_protocol;
     long m_default_baud_rate = 0;
@@ -113,36 +132,19 @@ private:
 };
 
 class PX_EXPORT PX_Std_IO_Port
-    : public PX_Named_Pair<PX_Ability_Accessors<PX_IO_Port, PX_IO_Port_Abilities>, PX_Std_IO_Port> {
+    : public PX_Named_Pair<PX_Ability_Accessors<PX_Line_Offer<PX_IO_Port>, PX_IO_Port_Abilities>,
+                           PX_Std_IO_Port> {
 public:
     static constexpr PX_Naming naming = PX_NAMING(L"PX_Std_IO_Port", px_std_io_cfg_source);
 
     const wchar_t* get_shared_name() const override { return m_shared_name; }
-    PX_IO_Type::Enum get_type() const override { return m_type; }
-    long get_bidi_flags() const override { return m_bidi_flags; }
-    PX_Smart_Pointer<PX_Named_Object_List<PX_Protocol>> get_protocol_list() const override {
-        return m_protocol_list;
-    }
-    PX_Smart_Pointer<PX_Object_List<PX_Baud_Rate>> get_baud_rate_list() const override {
-        return m_baud_rate_list;
-    }
-    long get_handshakes() const override { return m_handshakes; }
 
     void set_shared_name(const wchar_t* name) override { m_shared_name = name; }
-    void set_type(PX_IO_Type::Enum type) override { m_type = type; }
-    void set_bidi_flags(long flags) override { m_bidi_flags = flags; }
     void set_protocol_list(const PX_Named_Object_List<PX_Protocol>* list) override;
     void set_baud_rate_list(const PX_Object_List<PX_Baud_Rate>* list) override;
-    void set_handshakes(long handshakes) override { m_handshakes = handshakes; }
 
     void copy_properties_to(PX_IO_Port& new_one) const;
 
 private:
-    PX_IO_Type::Enum m_type = PX_IO_Type::No_IO_Type;
-    long m_bidi_flags = 0;
-    PX_Smart_Pointer<PX_Named_Object_List<PX_Protocol>> m_protocol_list = px_new_list<PX_Protocol>();
-    PX_Smart_Pointer<PX_Object_List<PX_Baud_Rate>> m_baud_rate_list =
-        px_new_list<PX_Baud_Rate, PX_Object_List>();
-    long m_handshakes = 0;
     PX_String m_shared_name;
 };

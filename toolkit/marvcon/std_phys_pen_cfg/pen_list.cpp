@@ -1,7 +1,6 @@
 #include <cstdint>
 #include <cwchar>
 #include <limits>
-#include <new>
 #include <string>
 #include <utility>
 
@@ -74,15 +73,10 @@ PX_Smart_Pointer<Pen_List> copy_of(const PX_Smart_Pointer<Pen_List>& list, const
     return copy;
 }
 
-// Runs what adds to lists. No memory for a place in them, or for the name of a pen, counts as none for the
-// list: MVNK_Memory_Exception 1101.
+// Runs what adds to lists, where there may be no memory for a place in them or for the name of a pen.
 template <class Call>
 void build_list(const wchar_t* function, Call&& call) {
-    try {
-        call();
-    } catch (const std::bad_alloc&) {
-        throw MVNK_Memory_Exception(PX_Code::No_Memory, function, L"workpenlist", file_tag);
-    }
+    px_with_memory(function, L"workpenlist", file_tag, call);
 }
 
 // Puts a number outside the limits on the nearer of them or to the default; true when it was outside.

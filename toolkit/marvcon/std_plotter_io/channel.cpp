@@ -64,19 +64,18 @@ PX_Std_Plotter_IO::Answer PX_Std_Plotter_IO::ask(unsigned int code, const wchar_
 bool PX_Std_Plotter_IO::configure(const PX_Plotter_Definition* plotter) {
     constexpr const wchar_t* function = L"PX_Std_Plotter_IO::configure";
     m_configured = false;
-    m_plotter = plotter;
     px_require_argument(plotter, function, L"plotter", file_tag);
     const auto choices = plotter->get_plotter_configuration();
     const auto device = plotter->get_plotter_capabilities();
     px_require_argument(choices && device, function, L"plotter_caps or plotter_cfg", file_tag);
     m_configuration = choices->get_io_configuration().get();
-    m_capabilities = device->get_io_capabilities().get();
-    px_require_argument(m_configuration && m_capabilities, function, L"io caps or io cfg", file_tag);
-    m_meta = plotter->get_meta_capabilities().get();
-    px_require_argument(m_meta, function, L"meta_capabilities", file_tag);
+    const auto capabilities = device->get_io_capabilities();
+    px_require_argument(m_configuration && capabilities, function, L"io caps or io cfg", file_tag);
+    const auto meta = plotter->get_meta_capabilities();
+    px_require_argument(meta, function, L"meta_capabilities", file_tag);
 
     m_type = m_configuration->get_type();
-    m_method = px_frame(function, [&] { return m_capabilities->get_method(m_type); }).get();
+    m_method = px_frame(function, [&] { return capabilities->get_method(m_type); }).get();
     m_protocol = m_method ? m_method->get_protocol(m_configuration->get_protocol()).get() : nullptr;
     if (!m_method && !m_configuration->get_all_system_ports_valid() && is_local_port())
         return false;
@@ -89,7 +88,7 @@ bool PX_Std_Plotter_IO::configure(const PX_Plotter_Definition* plotter) {
     }
 
     m_portname = m_configuration->get_portname();
-    const auto model = m_meta->get_model();
+    const auto model = meta->get_model();
     px_require_argument(model, function, L"model", file_tag);
     m_friendly_net_name = model->get_friendly_net_name();
     m_short_net_name = model->get_short_net_name();

@@ -80,10 +80,7 @@ private:
 
     PX_Smart_Pointer<PX_Error_Handler> m_error_handler;
     // The definition's parts are not owned.
-    const PX_Plotter_Definition* m_plotter = nullptr;
     PX_Plotter_IO_Configuration* m_configuration = nullptr;
-    PX_Plotter_IO_Capabilities* m_capabilities = nullptr;
-    PX_Meta_Capabilities* m_meta = nullptr;
     PX_IO_Type::Enum m_type = PX_IO_Type::No_IO_Type;
     PX_IO_Method* m_method = nullptr;
     PX_Protocol* m_protocol = nullptr;

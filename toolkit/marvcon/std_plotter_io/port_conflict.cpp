@@ -1,5 +1,4 @@
 #include <cwchar>
-#include <new>
 
 #include "toolkit/core/fields.h"
 #include "toolkit/core/process_list.h"
@@ -32,16 +31,14 @@ bool is_first_warning(const wchar_t* port) {
     auto& warned_ports = px_process_list<PX_Warned_Port>();
     if (warned_ports && warned_ports->find(port))
         return false;
-    try {
+    px_with_memory(function, L"new_port", file_tag, [&] {
         PX_Smart_Pointer<PX_Warned_Port> warned;
         px_store_made(warned, new PX_Warned_Port, function, L"new_port", file_tag);
         warned->set_canonical_name(port);
         if (!warned_ports)
             warned_ports = px_new_list<PX_Warned_Port>();
         warned_ports->append(warned);
-    } catch (const std::bad_alloc&) {
-        throw MVNK_Memory_Exception(PX_Code::No_Memory, function, L"new_port", file_tag);
-    }
+    });
     return true;
 }
 

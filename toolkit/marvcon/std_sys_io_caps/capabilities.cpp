@@ -78,15 +78,12 @@ bool is_redirected(const wchar_t* port) {
 // Adds a port that `fill` has completed. What there is no memory for is 1101, "new_port".
 template <class Fill>
 void add_port(Ports& ports, Fill fill) {
-    PX_Smart_Pointer<PX_IO_Port> port;
-    try {
-        port = new PX_Std_IO_Port;
+    px_with_memory(constructor, L"new_port", file_tag, [&] {
+        PX_Smart_Pointer<PX_IO_Port> port(new PX_Std_IO_Port);
         px_require_made(port, constructor, L"new_port", file_tag);
         fill(*port);
         ports.prepend(port);
-    } catch (const std::bad_alloc&) {
-        throw MVNK_Memory_Exception(PX_Code::No_Memory, constructor, L"new_port", file_tag);
-    }
+    });
 }
 
 // A list that the port cannot copy for want of memory is 1101 with this detail.

@@ -1,6 +1,5 @@
 #include <cwchar>
 #include <iterator>
-#include <new>
 #include <utility>
 
 #include "toolkit/core/error_resources.h"
@@ -16,16 +15,6 @@ namespace {
 // Failures carry the constructor's name.
 constexpr const wchar_t* constructor = L"PX_Std_System_IO_Capabilities::PX_Std_System_IO_Capabilities()";
 constexpr const wchar_t* file_tag = px_std_sys_io_caps_source.file_tag;
-
-// What there is no memory for within the call is 1101 with this detail.
-template <class Call>
-void report_no_memory(const wchar_t* detail, Call&& call) {
-    try {
-        call();
-    } catch (const std::bad_alloc&) {
-        throw MVNK_Memory_Exception(PX_Code::No_Memory, constructor, detail, file_tag);
-    }
-}
 
 bool is_taken(unsigned long mask, unsigned long fixed, unsigned long settable) {
     return ((fixed ? fixed : settable) & mask) != 0;
@@ -117,7 +106,7 @@ void PX_Std_System_IO_Capabilities::add_b_rate(unsigned long mask, const COMMPRO
     PX_Smart_Pointer<PX_Baud_Rate> rate;
     px_store_made<PX_Baud_Rate>(rate, new PX_Std_Baud_Rate, constructor, L"new_baud", file_tag);
     rate->set_baud_rate(win_b_rate_to_long(mask));
-    report_no_memory(L"new_baud", [&] { list->prepend(std::move(rate)); });
+    px_with_memory(constructor, L"new_baud", file_tag, [&] { list->prepend(std::move(rate)); });
 }
 
 void PX_Std_System_IO_Capabilities::set_up_protocols(unsigned long data_bits, unsigned long parity,
@@ -129,7 +118,7 @@ void PX_Std_System_IO_Capabilities::set_up_protocols(unsigned long data_bits, un
                is_taken(check.mask, parity, record.wSettableStopParity) &&
                is_taken(stop.mask, stop_bits, record.wSettableStopParity);
     };
-    report_no_memory(L"new_proto", [&] {
+    px_with_memory(constructor, L"new_proto", file_tag, [&] {
         const Localized_Letters localized;
         for (const auto& bits : px_data_bits) {
             for (const auto& check : px_parities) {

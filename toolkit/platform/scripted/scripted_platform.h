@@ -171,15 +171,3 @@ private:
     HWND m_active_window = nullptr;
     unsigned int m_control_word = px_fp_exceptions;
 };
-
-// Makes a platform the current one while it lives, and then puts the former one back.
-class PX_Use_Platform {
-public:
-    explicit PX_Use_Platform(PX_Platform& platform) : m_former(PX_Set_Platform(&platform)) {}
-    ~PX_Use_Platform() { PX_Set_Platform(m_former); }
-    PX_Use_Platform(const PX_Use_Platform&) = delete;
-    PX_Use_Platform& operator=(const PX_Use_Platform&) = delete;
-
-private:
-    PX_Platform* m_former;
-};

@@ -233,7 +233,7 @@ SAMPLES = {
          IO + "validator.cpp": include("marvcon/std_io_cfg/validator.h", "marvcon/std_plval/domain_objects.h",
                                        "marvcon/std_plval/datum.h", "platform/platform.h"),
          "toolkit/marvcon/std_io_cfg.h": include("marvcon/std_io_cfg/validator.h"),
-         "toolkit/marvcon/std_plotter_io/open.cpp": include("marvcon/std_sys_io_caps/interface.h"),
+         "toolkit/marvcon/std_plotter_io/open.cpp": include("marvcon/std_io_cfg/interface.h"),
          "toolkit/marvcon/std_plotter_def/factory_interface.h": include("marvcon/std_io_cfg/baud.h"),
          "toolkit/marvcon/std_plotter_def/class_factory.cpp": include("marvcon/std_io_cfg/validator.h"),
          "toolkit/marvcon/marvcon.h": include("marvcon/std_io_cfg.h"),

@@ -17,7 +17,7 @@ esac
 need_packages g++ cmake ninja-build libgtest-dev pkg-config python3 libcups2-dev libcli11-dev \
     nlohmann-json3-dev libpugixml-dev || exit 1
 # What only some of the tests need: they are skipped without it.
-need_packages clang-format-14 binutils-mingw-w64-x86-64 openprinting-ppds cups || true
+need_packages clang-format-14 binutils-mingw-w64-x86-64 openprinting-ppds cups doxygen || true
 case $preset in
 asan)
     # For the build as well: it runs the test programs to ask for their tests.

@@ -16,11 +16,25 @@ marvcon_check(
     check.windows_resource ${Python3_EXECUTABLE} ${CMAKE_CURRENT_LIST_DIR}/resources/windows_resource_test.py
     --compiler ${CMAKE_CXX_COMPILER})
 
-add_executable(first_page readme/first_page.cpp)
-target_link_libraries(first_page PRIVATE marvcon marvcon_compile_options)
-marvcon_check(
-    check.readme ${Python3_EXECUTABLE} ${CMAKE_CURRENT_LIST_DIR}/readme/readme_test.py
-    $<TARGET_FILE:first_page>)
+# The reference, and that every public contract has its words.
+marvcon_check(check.docs ${Python3_EXECUTABLE} ${PROJECT_SOURCE_DIR}/scripts/reference.py --self-test
+              ${PROJECT_BINARY_DIR}/docs/Doxyfile)
+
+# The programs on the pages.
+file(GLOB pages CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/README.md ${PROJECT_SOURCE_DIR}/docs/*.md)
+set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${pages})
+execute_process(
+    COMMAND ${Python3_EXECUTABLE} ${CMAKE_CURRENT_LIST_DIR}/samples/samples.py extract
+            --to ${PROJECT_BINARY_DIR}/samples ${pages}
+    OUTPUT_VARIABLE samples OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
+string(REPLACE "\n" ";" samples "${samples}")
+while(samples)
+    list(POP_FRONT samples page name)
+    add_executable(sample_${name} ${PROJECT_BINARY_DIR}/samples/${name}.cpp)
+    target_link_libraries(sample_${name} PRIVATE marvcon marvcon_scripted_platform marvcon_compile_options)
+    marvcon_check(check.sample.${name} ${Python3_EXECUTABLE} ${CMAKE_CURRENT_LIST_DIR}/samples/samples.py run
+                  ${page} ${name} $<TARGET_FILE:sample_${name}>)
+endwhile()
 
 set(consumer_flags ${CMAKE_CXX_FLAGS})
 if(MARVCON_SANITIZE)

@@ -4,6 +4,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <random>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -40,12 +41,13 @@ inline void expect_in(const std::string& text, const std::vector<std::string>& p
         EXPECT_NE(text.find(part), std::string::npos) << part << " is not in\n" << text;
 }
 
-// A folder of its own for each test.
+// A folder of its own for each run of a test.
 class Host_Test : public testing::Test {
 protected:
     void SetUp() override {
         const auto* const test = testing::UnitTest::GetInstance()->current_test_info();
-        m_folder = std::filesystem::path(testing::TempDir()) / (std::string("plot_host_") + test->name());
+        m_folder = std::filesystem::path(testing::TempDir()) /
+                   (std::string("plot_host_") + test->name() + '_' + std::to_string(std::random_device()()));
         std::filesystem::create_directories(m_folder);
     }
     void TearDown() override { std::filesystem::remove_all(m_folder); }

@@ -27,6 +27,7 @@ public:
             link = &(*link)->m_next;
         *link = new_node(value);
     }
+    // An element that somebody holds by a counted pointer lives on.
     virtual void clear() { delete_nodes(); }
     virtual bool is_empty() const { return !m_head; }
     // A new list of the same class, and empty: assign is the operation that copies. Null when there is no
@@ -38,6 +39,7 @@ public:
     iterator* get_iterator() const { return new iterator(m_head); }
 
 protected:
+    // A node with a copy of the value, counted but in no chain yet. No memory is std::bad_alloc.
     Node* new_node(const T& value) {
         Node* const added = new Node(new T(value));
         if (!added)
@@ -57,6 +59,7 @@ private:
     }
 };
 
+// A list of values that is asked for one of them; T has an operator ==.
 template <class T>
 class PX_TEMPLATE_EXPORT PX_Searchable_Atomic_Object_List : public PX_Atomic_Object_List<T> {
 public:
@@ -88,6 +91,7 @@ class PX_TEMPLATE_EXPORT PX_Sortable_Atomic_Object_List : public PX_Searchable_A
 public:
     PX_Sortable_Atomic_Object_List* clone() const override { return new PX_Sortable_Atomic_Object_List; }
 
+    // Puts each element in its place by px_sorts_before, in the order of the list. None is copied.
     virtual void sort(bool ascending) {
         Node* unsorted = std::exchange(this->m_head, nullptr);
         while (unsorted) {

@@ -12,6 +12,7 @@
 // by remove_child, and as a parent takes a child out of the former parent's list before it enters it.
 class PX_EXPORT PX_Error_Handler {
 public:
+    // The answer to a report.
     enum PX_Error_Result : int {
         Result_Abort = 0,
         Result_Retry = 1,
@@ -23,12 +24,13 @@ public:
     PX_Error_Handler& operator=(const PX_Error_Handler&) = delete;
     virtual ~PX_Error_Handler();
 
+    // Tells the user; there is nothing to answer.
     virtual void info_message(const wchar_t* text) = 0;
     // The result is that of a message box: IDOK, IDCANCEL, ...
     virtual int message_box(const wchar_t* text, const wchar_t* caption, unsigned int type,
                             int default_result) = 0;
 
-    // The reports take the module with the text of `code`, and what an exception says of its origin; each
+    // Each report takes the module with the text of `code`, and what an exception says of its origin; each
     // text may be null.
     virtual void info(unsigned long long module, unsigned int code, const wchar_t* function,
                       const wchar_t* detail, const wchar_t* file) = 0;
@@ -54,7 +56,9 @@ public:
 
     // Whether this handler, as a parent, answers reports of this kind for its children.
     virtual bool take_responsability(PX_Exception::Handler kind) = 0;
+    // A child that enters a second parent leaves the first. Null does nothing.
     virtual void add_child(PX_Error_Handler* child) = 0;
+    // Takes the child out of the children; it keeps its parent.
     virtual void remove_child(PX_Error_Handler* child) = 0;
     virtual PX_Smart_Pointer<PX_Progress> get_progress() const = 0;
 
@@ -73,8 +77,8 @@ protected:
     PX_Smart_Pointer<PX_Error_Handler> m_parent;
 };
 
-// What a caught exception is reported as: by its own kind, always as a question, or always as severe. Each
-// logs the exception's path first; an exception of no kind is not reported at all and gives Result_Abort.
+// Each reports a caught exception: by its own kind, always as a question, or always as severe. It logs the
+// exception's path first; an exception of no kind is not reported at all and gives Result_Abort.
 PX_EXPORT PX_Error_Handler::PX_Error_Result px_report_by_kind(PX_Error_Handler& handler,
                                                               const PX_Exception& caught);
 PX_EXPORT PX_Error_Handler::PX_Error_Result px_report_as_ARI(PX_Error_Handler& handler,

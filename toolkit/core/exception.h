@@ -12,6 +12,7 @@ struct PX_Source {
     const wchar_t* file_tag;     // m_file of the domain's failures
     const wchar_t* header_path;  // m_function of its range errors
 };
+// A PX_Source of that stem.
 #define PX_SOURCE(stem)                                                     \
     PX_Source {                                                             \
         L"$Workfile: " stem L" $ $Revision: #1 $", L"toolkit/marvcon/" stem \
@@ -69,17 +70,20 @@ public:
     const wchar_t* m_stack[stack_capacity];  // the names of the frames passed, innermost first
 };
 
+// The user is told, and goes on or not.
 class PX_EXPORT PX_Warning : public PX_Exception {
 public:
     using PX_Exception::PX_Exception;
     Handler get_handler() const override;
 };
 
+// A warning of this library.
 class PX_EXPORT MVNK_Warning : public PX_Warning {
 public:
     using PX_Warning::PX_Warning;
 };
 
+// A failure of what was asked for; the program goes on.
 class PX_EXPORT PX_Error : public PX_Exception {
 public:
     using PX_Exception::PX_Exception;
@@ -99,6 +103,7 @@ public:
     Handler get_handler() const override;
 };
 
+// A file, port or printer that does not open.
 class PX_EXPORT MVNK_IO_Open_Error : public PX_ARI_Error {
 public:
     using PX_ARI_Error::PX_ARI_Error;
@@ -117,6 +122,7 @@ public:
     Handler get_handler() const override;
 };
 
+// What could not be made: 1101.
 class PX_EXPORT MVNK_Memory_Exception : public PX_Severe_Error {
 public:
     using PX_Severe_Error::PX_Severe_Error;

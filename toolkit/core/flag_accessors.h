@@ -5,6 +5,7 @@
 // The groups of flag accessors that the contracts of the domains share. A class stacks the groups that its
 // contract has between the contract and itself; `Set` is the domain's flag set.
 
+// What the device can do for each datum. A flag outside its enum throws PX_Severe_Error 1104, here and below.
 template <class Base, class Set>
 class PX_Ability_Accessors : public Base {
     using Flag = typename Set::Flag;
@@ -22,6 +23,7 @@ private:
     Set m_abilities;
 };
 
+// The flags of capabilities that belong to hosts and drivers.
 template <class Base, class Set>
 class PX_State_Accessors : public Base {
     using Flag = typename Set::Flag;
@@ -37,6 +39,7 @@ private:
     Set m_state;
 };
 
+// Who shows the user interface of each datum.
 template <class Base, class Set>
 class PX_Owner_Accessors : public Base {
     using Flag = typename Set::Flag;
@@ -75,6 +78,7 @@ protected:
         this->set_one_validated(false, flag);
         this->set_one_default(false, flag);
     }
+    // For the clone of a configuration, behind its setters, which clear flags.
     void copy_flags_to(PX_Configuration_Accessors& other) const {
         other.m_validated = m_validated;
         other.m_default = m_default;

@@ -93,6 +93,7 @@ public:
     void set_one(Value value, int flag) { set_flag(flag, value); }
     void set_all(Value value) { set_flags(static_cast<int>(value)); }
 
+    // How long the text of so many flags is.
     static constexpr int digits_for(int flags) { return flags; }
 };
 
@@ -125,6 +126,7 @@ public:
     // All four bits of every digit, those beyond the count too.
     void set_all(bool on) { set_flags(on ? 15 : 0); }
 
+    // How long the text of so many flags is.
     static constexpr int digits_for(int flags) { return (flags + 3) / 4; }
 };
 

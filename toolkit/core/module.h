@@ -5,6 +5,7 @@
 // What lives once per process is freed when the module goes, in the order of these steps: lists of counted
 // objects before the pool that counts them.
 enum class PX_Exit_Step : int { Lists, Resources, Pool };
+// Their number.
 inline constexpr int px_exit_steps = 3;
 
 // Has `free_it` called once, at the next module exit. A function that is waiting already is not added again.

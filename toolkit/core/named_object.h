@@ -14,11 +14,14 @@ struct PX_Naming {
     unsigned int null_code;  // what a null canonical name is reported with
     const wchar_t* null_detail;
 };
+// The PX_Naming of a class, a wide literal, that comes from a PX_Source. A null canonical name is 1103,
+// "canonical_name".
 #define PX_NAMING(class_name, source)                                                 \
     PX_Naming {                                                                       \
         class_name L"::set_canonical_name", class_name L"::clone", (source).file_tag, \
             PX_Code::Null_Argument, L"canonical_name"                                 \
     }
+// The same with another number and detail for the null name.
 #define PX_NAMING_WITH(class_name, source, null_code, null_detail)                                           \
     PX_Naming {                                                                                              \
         class_name L"::set_canonical_name", class_name L"::clone", (source).file_tag, null_code, null_detail \

@@ -82,6 +82,7 @@ public:
         }
     }
 
+    // An object that somebody else counts lives on.
     void clear() {
         px_delete_nodes(m_head);
         m_tail = nullptr;

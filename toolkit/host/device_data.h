@@ -9,7 +9,11 @@ class PX_EXPORT PX_Renderer_Data : public PX_Object {
 public:
     ~PX_Renderer_Data() override;
 
+    // Tunes the options of the renderers for the picture to come.
     virtual void optimize_current_renderer_options() {}
+
+    // These four follow a picture: before the first, at its beginning and end, and when something has
+    // changed.
     virtual void establish_all() {}
     virtual void begin_picture_all() {}
     virtual void end_picture_all() {}
@@ -23,6 +27,7 @@ class PX_EXPORT PX_Device_Data : public PX_Renderer_Data {
 public:
     ~PX_Device_Data() override;
 
+    // Tunes the current options for the picture to come.
     virtual void optimize_current_options() {}
 
     PX_Option_Table& get_options() { return m_options; }

@@ -84,6 +84,7 @@ private:
     const Held* m_held;
 };
 
+// The enumerations of options.
 struct PX_Option_Enum {
     // For whom an option holds. The host gives the numbers their meaning; the toolkit's options have 0.
     enum Scope : int { Scope_0 = 0 };

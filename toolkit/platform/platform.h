@@ -124,6 +124,7 @@ public:
     virtual BOOL GetVersionExW(OSVERSIONINFOW* version) = 0;
 };
 
+// Local names that stand for what lies on the network.
 class PX_EXPORT PX_Network_Platform {
 public:
     virtual ~PX_Network_Platform();
@@ -133,6 +134,7 @@ public:
     virtual DWORD WNetGetConnectionW(const wchar_t* local_name, wchar_t* remote_name, DWORD* size) = 0;
 };
 
+// All of it together: a back end derives from this.
 class PX_EXPORT PX_Platform : public PX_Module_Platform,
                               public PX_Message_Box_Platform,
                               public PX_Floating_Point_Platform,

@@ -20,6 +20,7 @@ public:
     // them when true, 65536 when false. A new record says true and has no set: call this first.
     void set_single_byte(bool single_byte);
     bool get_single_byte() const { return m_single_byte; }
+    // No code point is used. The set keeps its size.
     void clear_all();
     // A code point that the set has no room for reads as not used and is not set; without a set that is so of
     // every one.

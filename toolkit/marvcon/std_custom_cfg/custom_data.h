@@ -82,6 +82,7 @@ public:
     bool is_equal(const Contract& other) const { return stored(*this) == stored(other); }
     bool is_below(const Contract& other) const { return stored(*this) < stored(other); }
     bool is_above(const Contract& other) const { return stored(*this) > stored(other); }
+    // Takes the other's number over, as it is stored here.
     void assign(const Contract& other) { m_data = stored(other); }
 
 private:
@@ -134,6 +135,7 @@ public:
     bool is_equal(const PX_String_Custom_Data& other) const;
     bool is_below(const PX_String_Custom_Data& other) const { return difference(other) < 0; }
     bool is_above(const PX_String_Custom_Data& other) const { return difference(other) > 0; }
+    // Takes a copy of the other's text.
     void assign(const PX_String_Custom_Data& other) { m_data = other.data(); }
 
 private:

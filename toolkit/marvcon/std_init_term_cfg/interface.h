@@ -21,6 +21,7 @@ struct PX_InitTerm_Ability_Flags {
                                          px_std_init_term_cfg_source.header_path};
 };
 
+// The strings again, as the owners of their user interface are numbered.
 struct PX_InitTerm_UI_Owner_Flags {
     enum Enum : int {
         No_InitTerm_Datum = -1,

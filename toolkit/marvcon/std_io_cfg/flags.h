@@ -71,6 +71,7 @@ struct PX_IO_Port_Ability_Flags {
                                          px_std_io_cfg_source.header_path};
 };
 
+// Named by hosts and drivers, as the owners below.
 struct PX_Plotter_IO_User_Flags {
     enum Enum : int {
         No_IO_User_Flag = -1,
@@ -83,6 +84,7 @@ struct PX_Plotter_IO_User_Flags {
                                          px_std_io_cfg_source.header_path};
 };
 
+// Who shows the user interface of what.
 struct PX_IO_UI_Owner_Flags {
     enum Enum : int {
         No_IO_UI_Owner = -1,

@@ -27,6 +27,7 @@ struct PX_Data_Bits {
     };
 };
 
+// How long a serial line rests between two characters.
 struct PX_Stop_Bits {
     enum Enum : int {
         Stop_Bits_Undefined = -1,
@@ -36,6 +37,7 @@ struct PX_Stop_Bits {
     };
 };
 
+// What the parity bit of a character tells.
 struct PX_Parity {
     enum Enum : int {
         Parity_Undefined = -1,

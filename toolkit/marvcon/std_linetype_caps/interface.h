@@ -11,12 +11,14 @@ struct PX_Line_Pattern {
     static constexpr int count = 18;
 };
 
+// Named by hosts and drivers.
 struct PX_Linetype_Ability_Flags {
     enum Enum : int { No_Linetype_Ability = -1 };
     static constexpr PX_Flag_Range range{2, L"PX_Linetype_Ability_Flags::Enum",
                                          px_std_linetype_caps_source.header_path};
 };
 
+// Named by hosts and drivers.
 struct PX_Linetype_User_Flags {
     enum Enum : int { No_Linetype_User_Flag = -1 };
     static constexpr PX_Flag_Range range{4, L"PX_Linetype_User_Flags::Enum",

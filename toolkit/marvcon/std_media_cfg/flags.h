@@ -49,6 +49,7 @@ struct PX_Media_User_Flags {
                                          px_std_media_cfg_source.header_path};
 };
 
+// Named by hosts and drivers.
 struct PX_Media_UI_Owner_Flags {
     enum Enum : int { No_Media_UI_Owner = -1 };
     static constexpr PX_Flag_Range range{23, L"PX_Media_UI_Owner_Flags::Enum",

@@ -10,6 +10,7 @@ struct PX_Media_Group {
     };
 };
 
+// How a source feeds its sheets.
 struct PX_Media_Feed {
     enum Enum : int {
         Media_Feed_Unset = -1,
@@ -18,26 +19,32 @@ struct PX_Media_Feed {
     };
 };
 
+// How the sheets of several copies are put together.
 struct PX_Media_Collating_Type {
     enum Enum : int { Collating_Type_0 = 0 };
 };
 
+// Where a sheet is stapled.
 struct PX_Media_Stapling_Location {
     enum Enum : int { Stapling_Location_None = -1 };
 };
 
+// When it is stapled.
 struct PX_Media_Stapling_When {
     enum Enum : int { Stapling_When_0 = 0 };
 };
 
+// When a sheet is cut.
 struct PX_Media_Cutting_When {
     enum Enum : int { Cutting_When_0 = 0 };
 };
 
+// How a sheet is folded.
 struct PX_Media_Folding_Type {
     enum Enum : int { Folding_Type_None = -1 };
 };
 
+// When it is folded.
 struct PX_Media_Folding_When {
     enum Enum : int { Folding_When_0 = 0 };
 };
@@ -68,6 +75,6 @@ struct PX_Dm_Orientation {
     };
 };
 
-// The scale of the device mode, in per cent.
+// Each in per cent: a bound of the scale of the device mode, and allowed.
 inline constexpr long px_dm_scale_min = 1;
 inline constexpr long px_dm_scale_max = 32766;

@@ -60,6 +60,7 @@ struct PX_Pen_User_Flags {
                                          px_std_phys_pen_cfg_source.header_path};
 };
 
+// Named by hosts and drivers.
 struct PX_PhysPen_UI_Owner_Flags {
     enum Enum : int {
         No_Pen_UI_Owner = -1,

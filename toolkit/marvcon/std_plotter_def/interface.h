@@ -167,7 +167,7 @@ public:
     // The definition stores a clone; null is MVNK_Error 1103, "shoebox".
     virtual void set_shoebox(const PX_Shoebox* shoebox) = 0;
 
-    // A driver's own user interface. False: the driver has none, or nothing was changed.
+    // These are a driver's own user interface. False: the driver has none, or nothing was changed.
     virtual bool CustomConfigure(HWND owner) = 0;
     virtual bool Custom_Config_UI_Available() = 0;
     virtual bool DevmodeConfigure(const DEVMODEW*, bool) = 0;

@@ -11,12 +11,14 @@ struct PX_Raster_Orientation_Prefs {
     enum Enum : int {};
 };
 
+// Named by hosts and drivers.
 struct PX_Raster_Ability_Flags {
     enum Enum : int { No_Raster_Ability = -1 };
     static constexpr PX_Flag_Range range{4, L"PX_Raster_Ability_Flags::Enum",
                                          px_std_raster_caps_source.header_path};
 };
 
+// Named by hosts and drivers.
 struct PX_Raster_User_Flags {
     enum Enum : int { No_Raster_User_Flag = -1 };
     static constexpr PX_Flag_Range range{5, L"PX_Raster_User_Flags::Enum",

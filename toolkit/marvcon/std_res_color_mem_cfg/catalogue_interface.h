@@ -58,6 +58,7 @@ public:
     virtual PX_Dither_Matrix* clone() const = 0;
 };
 
+// A way of dithering: its matrices, and what it needs of the renderer.
 class PX_EXPORT PX_Dithering_Method {
 public:
     virtual ~PX_Dithering_Method();

@@ -45,6 +45,7 @@ struct PX_ResColorMem_User_Flags {
                                          px_std_res_color_mem_cfg_source.header_path};
 };
 
+// Named by hosts and drivers.
 struct PX_ResColorMem_UI_Owner_Flags {
     enum Enum : int { No_RCM_UI_Owner = -1 };
     static constexpr PX_Flag_Range range{14, L"PX_ResColorMem_UI_Owner_Flags::Enum",

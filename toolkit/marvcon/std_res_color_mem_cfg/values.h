@@ -15,6 +15,7 @@ struct PX_Renderers_Required {
     };
 };
 
+// The colour system of a mode. Drivers give the numbers their meaning.
 struct PX_Color_System {
     enum Enum : int {
         Color_System_Undefined = -1,  // in a snapshot: agrees with nothing

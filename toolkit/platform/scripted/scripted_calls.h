@@ -12,6 +12,7 @@
 // the handles. An operation goes by its own name, such as "LoadStringW".
 class PX_Scripted_Calls {
 public:
+    // One call as it was recorded.
     struct Call {
         std::string operation;
         // The arguments that go in, in their order and in words: a text as it is, a number in decimal, a
@@ -36,7 +37,9 @@ public:
     std::vector<std::string> unspent_faults() const;
 
     const std::vector<Call>& calls() const { return m_calls; }
+    // Those of one operation, in their order. A name that no operation has gives none.
     std::vector<Call> calls_of(const std::string& operation) const;
+    // Their number.
     int count_of(const std::string& operation) const;
     // Those that were not recorded count too.
     int count_misuses() const { return m_misuses; }
@@ -64,6 +67,7 @@ protected:
     }
     // Once in a call.
     void mark_misuse();
+    // Gives the condition back.
     bool mark_misuse_if(bool is_misuse) {
         if (is_misuse)
             mark_misuse();

@@ -21,6 +21,7 @@ class PX_Scripted_Platform : public PX_Platform,
                              public PX_Scripted_Ports,
                              public PX_Scripted_Spooler {
 public:
+    // A message box that was shown.
     struct Box {
         std::wstring text;
         std::wstring caption;

@@ -18,8 +18,12 @@ public:
 
     // What an earlier program left. At first 1200 baud with seven bits and even parity, and 0 for the rest.
     void preset_comm_state(const std::wstring& port, const DCB& state);
+    // Likewise; all 0 at first.
     void preset_timeouts(const std::wstring& port, const COMMTIMEOUTS& timeouts);
+    // Likewise; 0 at first.
     void preset_event_mask(const std::wstring& port, DWORD events);
+
+    // These three tell what the port is left with.
     DCB comm_state_of(const std::wstring& port) const { return find(port).state; }
     COMMTIMEOUTS timeouts_of(const std::wstring& port) const { return find(port).timeouts; }
     DWORD event_mask_of(const std::wstring& port) const { return find(port).events; }
@@ -36,10 +40,12 @@ public:
     std::vector<std::wstring> open_files() const;
 
 protected:
+    // What one ClearCommError gives.
     struct Clearing {
         DWORD errors;
         bool fails;
     };
+    // A port, and what it was left with.
     struct Port {
         std::optional<std::wstring> name;
         bool is_serial;
@@ -49,6 +55,7 @@ protected:
         std::vector<DWORD> purges;
         std::deque<Clearing> clearings;
     };
+    // A port or a file that CreateFileW opened.
     struct Open_File {
         HANDLE handle;
         std::wstring name;
@@ -63,6 +70,7 @@ protected:
 
     // Null when there is none.
     const Port* port_of(const std::wstring& name) const;
+    // Likewise, to be changed.
     Port* port_of(const std::wstring& name);
 
     std::deque<Port> m_ports;

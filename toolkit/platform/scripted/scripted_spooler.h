@@ -13,6 +13,7 @@
 // is null where the machine lists it.
 class PX_Scripted_Spooler {
 public:
+    // A printer as the machine lists it.
     struct Printer {
         std::optional<std::wstring> server = {};
         std::optional<std::wstring> name = {};
@@ -21,6 +22,7 @@ public:
         std::optional<std::wstring> driver = {};
         DWORD attributes = PRINTER_ATTRIBUTE_LOCAL;
     };
+    // A print job and what became of it.
     struct Job {
         std::wstring printer;
         DWORD number;
@@ -39,6 +41,7 @@ public:
     // has one. It is opened by its name or by server, backslash and share (the share alone without a server),
     // any number of times. Its bytes go by its name.
     void add_printer(Printer printer) { m_printers.push_back(std::move(printer)); }
+    // Listed in this order.
     void add_driver(std::optional<std::wstring> name, std::optional<std::wstring> monitor);
     // The lists of ports, printers and drivers each need a buffer of at least so many bytes.
     void pad_enumerations_to(DWORD bytes) { m_padding = bytes; }
@@ -58,10 +61,12 @@ public:
     void pretend_platform_id(DWORD platform_id) { m_platform_id = platform_id; }
 
 protected:
+    // A printer driver as the machine lists it.
     struct Driver {
         std::optional<std::wstring> name;
         std::optional<std::wstring> monitor;
     };
+    // A printer that OpenPrinterW opened.
     struct Open_Printer {
         HANDLE handle;
         std::wstring name;

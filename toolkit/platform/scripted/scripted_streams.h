@@ -13,6 +13,7 @@
 // The bytes that go out and come in under one name, and how many of them a write takes.
 class PX_Scripted_Stream {
 public:
+    // What one write takes.
     struct Portion {
         DWORD at_most;
         bool fails;
@@ -28,6 +29,7 @@ public:
     std::size_t written_count = 0;
     std::deque<std::string> arrivals;
     std::deque<Portion> portions;
+    // Asked once there are no portions left; null takes everything.
     std::function<DWORD(DWORD)> next_portion;
 };
 

@@ -4,7 +4,7 @@ set(marvcon_package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/marvcon)
 
 # Two components: what programs run with, and what their authors build with.
 install(
-    TARGETS marvcon marvcon_static marvcon_scripted_platform
+    TARGETS marvcon marvcon_static marvcon_report marvcon_report_static marvcon_scripted_platform
     EXPORT marvcon_targets
     RUNTIME COMPONENT runtime
     LIBRARY COMPONENT runtime NAMELINK_COMPONENT dev

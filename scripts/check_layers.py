@@ -13,7 +13,7 @@ import sys
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 
-FLOORS = {"host": 0, "platform": 1, "core": 2, "marvcon": 3}
+FLOORS = {"host": 0, "platform": 1, "core": 2, "marvcon": 3, "report": 4}
 BACK_ENDS = {"posix", "win32", "scripted"}
 FRAME = {"std_plotter_def", "std_plval"}
 FRAME_FACE = {"interface.h", "factory_interface.h", "datum.h", "domain_objects.h"}
@@ -34,6 +34,8 @@ MAKERS = {("std_sys_io_caps", "std_io_cfg"), ("std_io_cfg", "std_sys_io_caps")}
 CONTRACTS = {"interface.h", "catalogue_interface.h", "factory_interface.h"}
 WIN_TYPES = "toolkit/platform/win_types.h"
 PUBLIC_FACE = "toolkit/marvcon/marvcon.h"
+# The add-on, which examples see too.
+REPORT_FACE = "toolkit/report.h"
 # A host names the ports and the print server of its machine; a driver does not.
 MACHINE, HOST = "toolkit/platform/posix/posix_platform.h", "examples/plot_host"
 
@@ -118,7 +120,7 @@ class Checker:
         parts = file.parts()
         if file.line_count > MOST_LINES:
             yield MOST_LINES + 1, f"{file.line_count} lines: the file has two subjects"
-        if parts[0] == "toolkit" and parts[1] not in {*FLOORS, "resources"}:
+        if parts[0] == "toolkit" and file.path != REPORT_FACE and parts[1] not in {*FLOORS, "resources"}:
             yield 1, f"no rule knows the floor toolkit/{parts[1]}"
         elif (folder := folder_in_marvcon(file.path)) and folder not in DOMAINS | FRAME:
             yield 1, f"no rule knows the folder toolkit/marvcon/{folder}"
@@ -138,15 +140,19 @@ class Checker:
         if posixpath.normpath(target) != target:
             return "an include of our own names the file from the root of the tree"
         if is_below(path, "examples"):
-            if target == PUBLIC_FACE or is_below(target, "toolkit/platform/scripted"):
+            if target in (PUBLIC_FACE, REPORT_FACE) or is_below(target, "toolkit/platform/scripted"):
                 return ""
             if target == MACHINE and is_below(path, HOST):
                 return ""
-            return f"an example sees the public face only: {PUBLIC_FACE}"
+            return f"an example sees the public faces only: {PUBLIC_FACE}, {REPORT_FACE}"
         if is_below(path, "toolkit/resources"):
             if is_below(target, "toolkit/resources") or is_below(target, "toolkit/platform/posix"):
                 return ""
             return "the texts see only how a module of texts is made"
+        if path == REPORT_FACE:
+            return "" if is_below(target, "toolkit/report") else "the add-on's face covers its folder"
+        if target == REPORT_FACE:
+            return "an umbrella header is for those outside the toolkit"
         return self.wrong_floor(path, target) or self.wrong_room(path, target)
 
     @staticmethod
@@ -162,6 +168,8 @@ class Checker:
         return ""
 
     def wrong_room(self, path, target):
+        if is_below(path, "toolkit/report") and is_below(target, "toolkit/marvcon") and target != PUBLIC_FACE:
+            return f"the add-on sees the model by its public face only: {PUBLIC_FACE}"
         if not is_below(path, "toolkit/marvcon"):
             return ""
         folder, name = folder_in_marvcon(path), posixpath.basename(path)
@@ -284,6 +292,16 @@ SAMPLES = {
                                     HOST + "/a.h": include("platform/posix/posix_platform.h")},
                                    [(1, "public face")]),
     "a second door": ({"toolkit/platform/win32/a.h": "#  include <Windows.h>\n"}, [(1, "only door")]),
+    "a sound add-on": (
+        {REPORT_FACE: include("report/a.h"),
+         "toolkit/report/a.h": include("marvcon/marvcon.h", "report/b.h", "core/fields.h"),
+         "examples/a.cpp": include("report.h")}, []),
+    "the model knows the add-on": ({PENS + "a.cpp": include("report/a.h"),
+                                    "toolkit/core/a.cpp": include("report.h")}, [(1, "umbrella"), (1, "up")]),
+    "the add-on behind the face": ({"toolkit/report/a.cpp": include("marvcon/std_phys_pen_cfg/pen.h")},
+                                   [(1, "public face")]),
+    "an example behind the add-on's face": ({"examples/a.cpp": include("report/a.h")},
+                                            [(1, "public faces")]),
     "a relative include": ({"toolkit/core/a.cpp": '#include "flags.h"\n'}, [(1, "root of the tree")]),
     "a winding include": ({"toolkit/core/a.cpp": include("core/../marvcon/a.h")}, [(1, "root of the tree")]),
     "asks for the system": ({"toolkit/core/a.cpp": "/*\n#ifdef _WIN32\n*/\n#ifdef _WIN32\n#endif\n"},

@@ -77,7 +77,11 @@ else
 fi
 
 echo
-echo "=== The wide-format device opens that choice: foreign strings give way to its own, or go"
+echo "=== What the wide-format device would make of that choice: a dry run"
+run --device "$device" --choice "$choice" --dry-run >"$work/report"
+grep -v ' kept ' "$work/report" || true
+echo
+echo "=== It opens that choice: foreign strings give way to its own, or go"
 run --device "$device" --choice "$choice" --policy reset --save "$work/own_choice.json"
 run --device "$device" --choice "$choice" --policy validate
 echo

@@ -4,6 +4,8 @@
 #include <charconv>
 #include <cstddef>
 
+#include "toolkit/report.h"
+
 namespace text {
 namespace {
 
@@ -33,12 +35,6 @@ Character first_character(std::string_view bytes) {
                                                                     : Character{number, tails + 1};
 }
 
-// The two above the control characters separate lines and paragraphs.
-bool is_blank_or_control(char32_t character) {
-    return character <= ' ' || (character >= 0x7F && character < 0xA0) || character == 0x2028 ||
-           character == 0x2029;
-}
-
 }  // namespace
 
 std::wstring from_utf8(std::string_view bytes) {
@@ -65,21 +61,7 @@ std::string to_utf8(std::wstring_view wide) {
 }
 
 std::string on_one_line(std::string_view bytes) {
-    std::string line;
-    bool blank = false;
-    while (!bytes.empty()) {
-        const Character next = first_character(bytes);
-        if (is_blank_or_control(next.number)) {
-            blank = !line.empty();
-        } else {
-            if (blank)
-                line += ' ';
-            blank = false;
-            line += bytes.substr(0, next.length);
-        }
-        bytes.remove_prefix(next.length);
-    }
-    return line;
+    return px_on_one_line(from_utf8(bytes));
 }
 
 std::string shortest(float number) {

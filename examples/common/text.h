@@ -10,8 +10,8 @@ namespace text {
 std::wstring from_utf8(std::string_view bytes);
 std::string to_utf8(std::wstring_view wide);
 
-// For a terminal or a name: every run of blanks, control characters and line separators as one blank, none at
-// the ends.
+// For a terminal or a name, of bytes that are read as above: every run of blanks, control characters and line
+// separators as one blank, none at the ends.
 std::string on_one_line(std::string_view bytes);
 
 // The shortest digits that stand for the very number, in no language of the user's.

@@ -10,7 +10,7 @@
 #include <utility>
 #include <vector>
 
-#include "examples/plot_host/words.h"
+#include "toolkit/report.h"
 
 namespace plot_host {
 namespace {
@@ -18,26 +18,26 @@ namespace {
 namespace fs = std::filesystem;
 
 using Strategy = PX_Validation_Strategy;
-constexpr Word<Strategy::Enum> strategies[] = {
+constexpr PX_Word<Strategy::Enum> strategies[] = {
     {"default", Strategy::Use_Default},
     {"nearest", Strategy::Use_Nearest},
 };
 
 using Policy = PX_Validation_Policy;
-constexpr Word<Policy::Enum> policies[] = {
+constexpr PX_Word<Policy::Enum> policies[] = {
     {"keep", Policy::Keep_All},
     {"keep-conditional", Policy::Keep_Conditional},
     {"validate", Policy::Validate_Conditional},
     {"reset", Policy::Reset_Conditional},
 };
 
-constexpr Word<Pick_List> pick_lists[] = {
+constexpr PX_Word<Pick_List> pick_lists[] = {
     {"resolutions", Pick_List::Resolutions},
     {"colours", Pick_List::Colors},
 };
 
 template <class Value, std::size_t count>
-CLI::Validator one_of(const Word<Value> (&words)[count]) {
+CLI::Validator one_of(const PX_Word<Value> (&words)[count]) {
     std::vector<std::string> allowed;
     for (const auto& word : words)
         allowed.emplace_back(word.word);
@@ -45,12 +45,12 @@ CLI::Validator one_of(const Word<Value> (&words)[count]) {
 }
 
 template <class Value, std::size_t count>
-void add_choice_of(CLI::App& app, const char* option, const Word<Value> (&words)[count], Value& value,
+void add_choice_of(CLI::App& app, const char* option, const PX_Word<Value> (&words)[count], Value& value,
                    const char* description) {
-    const auto store = [&](const std::string& word) { value = value_in(words, word).value(); };
+    const auto store = [&](const std::string& word) { value = px_value_in(words, word).value(); };
     app.add_option_function<std::string>(option, store, description)
         ->check(one_of(words))
-        ->default_str(word_in(words, value));
+        ->default_str(px_word_in(words, value));
 }
 
 bool is_one_file(const fs::path& one, const fs::path& other) {
@@ -131,6 +131,8 @@ std::optional<Arguments> parse_arguments(int count, const char* const* words, st
     add_choice_of(app, "--policy", policies, arguments.policy, "how much of the choice is looked at");
     app.add_flag("--fixed-settables", arguments.fixed_settables,
                  "put the data that the user may set to their defaults instead of validating them");
+    app.add_flag("--dry-run", arguments.dry_run,
+                 "only tell what would be changed; nothing is changed, saved or plotted");
     const auto add_words = [&app](const char* option, const char* kind, const char* description, auto store) {
         return app.add_option_function<std::string>(option, store, description)->type_name(kind);
     };
@@ -160,7 +162,7 @@ std::optional<Arguments> parse_arguments(int count, const char* const* words, st
            "--list",
            [&](const std::vector<std::string>& lists) {
                for (const std::string& list : lists)
-                   arguments.lists.push_back(value_in(pick_lists, list).value());
+                   arguments.lists.push_back(px_value_in(pick_lists, list).value());
            },
            "show what there is to choose from")
         ->check(one_of(pick_lists));
@@ -179,11 +181,11 @@ std::optional<Arguments> parse_arguments(int count, const char* const* words, st
 }
 
 const char* word_for(PX_Validation_Strategy::Enum strategy) {
-    return word_in(strategies, strategy);
+    return px_word_in(strategies, strategy);
 }
 
 const char* word_for(PX_Validation_Policy::Enum policy) {
-    return word_in(policies, policy);
+    return px_word_in(policies, policy);
 }
 
 }  // namespace plot_host

@@ -36,6 +36,8 @@ struct Arguments {
     PX_Validation_Strategy::Enum strategy = PX_Validation_Strategy::Use_Nearest;
     PX_Validation_Policy::Enum policy = PX_Validation_Policy::Validate_Conditional;
     bool fixed_settables = false;
+    // The report alone: nothing is changed, saved or plotted.
+    bool dry_run = false;
 };
 
 // Nothing when the user asked for help, which goes to `out`. Throws std::runtime_error for a line that makes

@@ -6,14 +6,14 @@
 
 #include "examples/common/made.h"
 #include "examples/common/text.h"
-#include "examples/plot_host/words.h"
+#include "toolkit/report.h"
 
 namespace plot_host {
 namespace {
 
-constexpr Word<Destination::Kind> kinds[] = {{"file", Destination::Kind::File},
-                                             {"port", Destination::Kind::Port},
-                                             {"queue", Destination::Kind::Queue}};
+constexpr PX_Word<Destination::Kind> kinds[] = {{"file", Destination::Kind::File},
+                                                {"port", Destination::Kind::Port},
+                                                {"queue", Destination::Kind::Queue}};
 
 // "com1:" is COM1.
 std::string port_name_of(std::string name) {
@@ -57,7 +57,7 @@ PX_Smart_Pointer<PX_Plotter_IO_Configuration> output_of(const PX_Plotter_Definit
 
 Destination destination_of(const std::string& words) {
     const std::size_t colon = words.find(':');
-    const auto kind = value_in(kinds, words.substr(0, colon));
+    const auto kind = px_value_in(kinds, words.substr(0, colon));
     if (colon == std::string::npos || !kind || colon + 1 == words.size())
         throw std::runtime_error("--to takes file:PATH, port:NAME or queue:NAME, not '" + words + "'");
     const std::string name = words.substr(colon + 1);
@@ -65,7 +65,7 @@ Destination destination_of(const std::string& words) {
 }
 
 std::string shown(const Destination& destination) {
-    return std::string(word_in(kinds, destination.kind)) + " " + text::on_one_line(destination.name);
+    return std::string(px_word_in(kinds, destination.kind)) + " " + text::on_one_line(destination.name);
 }
 
 void choose_destination(PX_Plotter_Definition& device, const Destination& destination) {

@@ -16,16 +16,13 @@
 #include "examples/plot_host/host_platform.h"
 #include "examples/plot_host/pick_lists.h"
 #include "examples/plot_host/picture.h"
-#include "examples/plot_host/report.h"
 #include "examples/plot_host/saved_choice.h"
 #include "examples/plot_host/sending.h"
+#include "examples/plot_host/unchosen.h"
+#include "toolkit/report.h"
 
 namespace plot_host {
 namespace {
-
-std::string on_one_line(const wchar_t* name) {
-    return text::on_one_line(text::to_utf8(name));
-}
 
 std::string shown(const Saved_Device& device) {
     return text::on_one_line(device.model + (device.maker.empty() ? "" : " (" + device.maker + ")"));
@@ -74,15 +71,24 @@ void refuse_what_is_no_file(const Arguments& arguments) {
 void print_heading(std::ostream& out, const PX_Plotter_Definition& device,
                    const std::optional<Saved_Device>& made_on, const Arguments& arguments) {
     const auto meta = device.get_meta_capabilities();
-    const std::string version = on_one_line(meta->get_driver_version());
+    const std::string version = px_on_one_line(meta->get_driver_version());
     out << "Device  " << shown(identity_of(device)) << '\n'
-        << "Driver  " << on_one_line(meta->get_driver_description())
+        << "Driver  " << px_on_one_line(meta->get_driver_description())
         << (version.empty() ? "" : ", version " + version) << ", from "
-        << on_one_line(meta->get_driver_pathname()) << '\n'
+        << px_on_one_line(meta->get_driver_pathname()) << '\n'
         << "Choice  " << (made_on ? "made on " + shown(*made_on) : "none: the device's defaults") << '\n'
-        << "Run     strategy " << word_for(arguments.strategy) << ", policy " << word_for(arguments.policy)
-        << ", settable data " << (arguments.fixed_settables ? "put to their defaults" : "validated")
-        << "\n\n";
+        << (arguments.dry_run ? "Dry run" : "Run    ") << " strategy " << word_for(arguments.strategy)
+        << ", policy " << word_for(arguments.policy) << ", settable data "
+        << (arguments.fixed_settables ? "put to their defaults" : "validated") << "\n\n";
+}
+
+// Brings the configuration of the device in line, and tells what that changed.
+template <class Fit>
+PX_Change_Report run_over(PX_Plotter_Definition& device, const PX_Validation_Order& order, Fit fit) {
+    const PX_Configuration_Snapshot before(*device.get_plotter_configuration());
+    fit();
+    device.get_plotter_validator()->validate_all(order.strategy, order.policy, order.validate_settable);
+    return {before, device, order};
 }
 
 void reconcile(const Arguments& arguments, PX_Plotter_Definition& device, std::ostream& out) {
@@ -101,20 +107,25 @@ void reconcile(const Arguments& arguments, PX_Plotter_Definition& device, std::o
     if (arguments.to)
         choose_destination(device, *arguments.to);
 
-    const Snapshot before = take_snapshot(*configuration);
-    if (made_on)
-        fit_custom_items(device);
+    const PX_Validation_Order order = {arguments.strategy, arguments.policy, !arguments.fixed_settables};
+    const auto fit = [&] {
+        if (made_on)
+            fit_custom_items(device);
+    };
     const Sheet sheet_before =
         take_sheet(*configuration, "Before: " + shown(made_on ? *made_on : identity_of(device)));
-    const bool answer =
-        validator->validate_all(arguments.strategy, arguments.policy, !arguments.fixed_settables);
+    const PX_Change_Report report =
+        arguments.dry_run ? px_dry_run(device, *configuration, order, fit) : run_over(device, order, fit);
     print_heading(out, device, made_on, arguments);
-    print_data(out, device, before);
-    print_answer(out, *validator, answer);
+    px_print_changes(out, report);
     print_unchosen(out, device);
     for (const Pick_List list : arguments.lists) {
         out << '\n';
         list == Pick_List::Resolutions ? print_resolutions(out, device) : print_colors(out, device);
+    }
+    if (arguments.dry_run) {
+        out << "\nThat was a dry run: nothing is changed, saved or plotted.\n";
+        return;
     }
     if (!arguments.picture.empty())
         draw_sheets(arguments.picture, sheet_before,
@@ -173,7 +184,7 @@ Exit_Code run(int count, const char* const* words, const Find_Driver& find_drive
             const Driver& driver = find_driver(arguments->device);
             const auto device = driver.open(arguments->device, handler.get());
             reconcile(*arguments, *device, out);
-            if (drawing)
+            if (drawing && !arguments->dry_run)
                 code = plot(*arguments, *drawing, {driver, *device, platform, handler, out, err, user});
         }
         finish(out);

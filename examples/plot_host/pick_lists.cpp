@@ -3,13 +3,13 @@
 #include <memory>
 #include <string>
 
-#include "examples/common/text.h"
+#include "toolkit/report.h"
 
 namespace plot_host {
 namespace {
 
 std::string shown(const wchar_t* name) {
-    return text::on_one_line(text::to_utf8(name));
+    return px_on_one_line(name);
 }
 
 // The list for the modes with undithered colours, then that for those without.

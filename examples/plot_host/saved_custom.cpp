@@ -1,6 +1,5 @@
-#include "examples/common/custom_values.h"
 #include "examples/plot_host/saved_rows.h"
-#include "examples/plot_host/words.h"
+#include "toolkit/report.h"
 
 namespace plot_host {
 namespace {
@@ -33,16 +32,16 @@ Data read_bytes(const Field& field) {
     return data(new PX_Std_Raw_Custom_Data(bytes.length(), bytes.data()));
 }
 
-// In the order of the kinds of Custom_Value.
-constexpr Word<Data (*)(const Field&)> types[] = {
+// In the order of the kinds of PX_Item_Value.
+constexpr PX_Word<Data (*)(const Field&)> types[] = {
     {"none", read_nothing},  {"string", read_string},   {"integer", read_integer},
     {"number", read_number}, {"boolean", read_boolean}, {"bytes", read_bytes},
 };
-static_assert(std::size(types) == std::variant_size_v<Custom_Value>);
+static_assert(std::size(types) == std::variant_size_v<PX_Item_Value>);
 
 json written(const PX_Custom_Config_Item& item) {
-    const Custom_Value value = value_of(item);
-    const auto as_it_is = By_Kind{
+    const PX_Item_Value value = px_item_value_of(item);
+    const auto as_it_is = PX_By_Kind{
         [](std::monostate) -> json { return nullptr; },
         [](const std::wstring& text) { return as_json(text.c_str()); },
         [](const auto& other) { return as_json(other); },
@@ -68,7 +67,7 @@ PX_Smart_Pointer<PX_Custom_Config_Item> read_item(const Field& field) {
     const auto item = made<PX_Custom_Config_Item>(new PX_Std_Custom_Config_Item, L"custom_item");
     item->set_canonical_name(text::from_utf8(field.required(members, "name").name()).c_str());
     const Field type = field.required(members, "type");
-    const auto read = value_in(types, type.text());
+    const auto read = px_value_in(types, type.text());
     if (!read)
         type.reject("names no type of a value");
     item->set_config_value((*read)(field.required(members, "value")).get());

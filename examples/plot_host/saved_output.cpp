@@ -1,5 +1,5 @@
-#include "examples/plot_host/output_words.h"
 #include "examples/plot_host/saved_rows.h"
+#include "toolkit/report.h"
 
 namespace plot_host {
 namespace {
@@ -7,11 +7,11 @@ namespace {
 using Output = PX_Plotter_IO_Configuration;
 
 json write_type(const Output& output) {
-    return word_of(output.get_type());
+    return px_word_of(output.get_type());
 }
 
 void read_type(const Field& field, Output& output) {
-    const auto type = io_type_of(field.text());
+    const auto type = px_io_type_of(field.text());
     if (!type)
         field.reject("names no kind of connection");
     output.set_type(*type);

@@ -1,15 +1,15 @@
-#include "examples/plot_host/pen_words.h"
 #include "examples/plot_host/saved_rows.h"
+#include "toolkit/report.h"
 
 namespace plot_host {
 namespace {
 
 json write_color(const PX_Pen& pen) {
-    return word_of(pen.get_pen_color().get());
+    return px_word_of(pen.get_pen_color().get());
 }
 
 void read_color(const Field& field, PX_Pen& pen) {
-    const auto color = pen_color_of(field.text());
+    const auto color = px_color_of(field.text());
     if (!color)
         field.reject("is no colour such as \"#00a0c8\"");
     pen.set_pen_color(&*color);

@@ -4,6 +4,7 @@
 
 #include "examples/common/text.h"
 #include "examples/plot_host/interrupt.h"
+#include "toolkit/report.h"
 
 namespace plot_host {
 namespace {
@@ -58,7 +59,7 @@ Exit_Code send_plot(const Plot_Order& order, const Session& session) {
                                          return !platform.is_stopped();
                                      });
     }
-    const std::string reason = text::on_one_line(text::to_utf8(platform.last_error()));
+    const std::string reason = px_on_one_line(platform.last_error());
     platform.close_ports();
     const std::string where = shown(order.destination);
     if (interrupt.was_caught()) {

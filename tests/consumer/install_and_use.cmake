@@ -57,6 +57,9 @@ set(text_of_1103 "1103 A required object is missing.")
 expect_output("${text_of_1103}" ${linked} ${build}/consumer_shared${suffix})
 expect_output("${text_of_1103}" ${carried} ${build}/carried/consumer_static${suffix})
 expect_output("missing after 2 calls" ${linked} ${build}/consumer_scripted${suffix})
+foreach(report report report_static)
+    expect_output("Copies, 3 > 2: nearest" ${linked} ${build}/consumer_${report}${suffix})
+endforeach()
 
 # Without its texts beside it, a program finds those of the place that it is installed to.
 file(COPY ${build}/carried/consumer_static${suffix} DESTINATION ${prefix}/bin)

@@ -96,8 +96,8 @@ TEST_F(Plot_Host_Choice, CustomItemsAreBroughtInLineWithTheDevice) {
     ASSERT_EQ(outcome.code, 0) << outcome.err;
     expect_in(outcome.out, {"was 61\n", "now 20\n", "now yes\n", "is  \"Site 7\"\n", "; 2 gone.\n",
                             "was bytes \"\\x1b\"\n", "was number 0.5\n"});
-    EXPECT_EQ(lines_of(outcome.out, "custom       changed  raised      yes        yes"), 2) << outcome.out;
-    EXPECT_EQ(lines_of(outcome.out, "custom       kept     none        yes        no"), 1) << outcome.out;
+    EXPECT_EQ(lines_of(outcome.out, "custom       default   raised  yes        yes"), 2) << outcome.out;
+    EXPECT_EQ(lines_of(outcome.out, "custom       kept      none    yes        no"), 1) << outcome.out;
     EXPECT_EQ(lines_of(outcome.out, "; custom data"), 1) << outcome.out;
     const std::string saved = content_of(path("saved.json"));
     EXPECT_EQ(lines_of(saved, "\"Site\\n7\""), 1) << saved;

@@ -13,10 +13,10 @@
 #include "examples/drivers/ppd/media.h"
 #include "examples/plot_host/configuration.h"
 #include "examples/plot_host/host_error_handler.h"
-#include "examples/plot_host/report.h"
 #include "examples/plot_host/saved_choice.h"
 #include "tests/examples/host_test.h"
 #include "tests/support/device.h"
+#include "toolkit/report.h"
 
 namespace {
 
@@ -202,6 +202,42 @@ TEST_F(Plot_Host, ReportTellsChangesThatNoBitTells) {
     EXPECT_EQ(kept.out.find("was "), std::string::npos) << "a new choice is at its defaults";
 }
 
+// The user looks at another device, and goes back to the old one with the old choice.
+TEST_F(Plot_Host, DryRunTellsWhatARunWouldDoAndKeepsTheChoice) {
+    const std::string own = path("own.ppd"), chosen = path("chosen.json");
+    file("own.ppd",
+         "*PPD-Adobe: \"4.3\"\n*FormatVersion: \"4.3\"\n*ModelName: \"Own\"\n"
+         "*OpenUI *PageSize: PickOne\n*PageSize Mine/Mine: \"\"\n*CloseUI: *PageSize\n"
+         "*PaperDimension Mine: \"500 700\"\n*ImageableArea Mine: \"9 9 490 690\"\n");
+    ASSERT_EQ(run_host({"--device", own, "--save", chosen}).code, 0);
+    const std::string before = content_of(chosen);
+
+    std::vector<std::string> arguments = {
+        "--device",  sample,         "--choice",  chosen, "--save", path("to.json"),
+        "--picture", path("to.svg"), "--drawing", plan,   "--to",   "file:" + path("to.plt"),
+        "--dry-run"};
+    const Outcome dry = run_host(arguments);
+    ASSERT_EQ(dry.code, 0) << dry.err;
+    expect_in(dry.out, {"Dry run strategy nearest", "was \"Mine\", 500 x 700", "silent",
+                        "dry run: nothing is changed"});
+    for (const char* const written : {"to.json", "to.svg", "to.plt"})
+        EXPECT_FALSE(std::filesystem::exists(path(written))) << written;
+    EXPECT_EQ(content_of(chosen), before);
+
+    // The table of the run itself is the same.
+    arguments.pop_back();
+    const Outcome real = run_host(arguments);
+    const auto table = [](const std::string& out) {
+        const auto start = out.find("Datum ");
+        return out.substr(start, out.find("The change words") - start);
+    };
+    EXPECT_EQ(table(real.out), table(dry.out));
+
+    const Outcome back = run_host({"--device", own, "--choice", chosen, "--save", path("again.json")});
+    expect_in(back.out, {"0 of 44 data changed."});
+    EXPECT_EQ(content_of(path("again.json")), before);
+}
+
 const char* const small_device = R"(*ModelName: "D"
 *VariablePaperSize: True
 *OpenUI *PageSize/Size: PickOne
@@ -355,13 +391,11 @@ TEST_F(Plot_Host, MediaDataThatAChoiceDoesNotNameStay) {
     const auto choice = plot_host::new_configuration(*device);
     device->set_plotter_configuration(choice.get());
     device->get_plotter_validator()->set_all_to_defaults();
-    const auto before = plot_host::take_snapshot(*choice);
+    const PX_Configuration_Snapshot before(*choice);
     plot_host::load_choice(file("name.json", R"({"device":{"model":"D"},"media":{"size":"Mine"}})"), *choice);
-    const auto after = plot_host::take_snapshot(*choice);
-    for (std::size_t at = 0; at < before.size(); ++at) {
-        const bool same = before[at].exact == after[at].exact;
-        EXPECT_EQ(same, before[at].name != "Size") << before[at].name;
-    }
+    const PX_Configuration_Snapshot after(*choice);
+    for (const PX_Datum_Value& was : before.get_values())
+        EXPECT_EQ(was.exact == after.find(was.datum)->exact, was.name != "Size") << was.name;
     EXPECT_STREQ(choice->get_media_configuration()->get_media_size(), L"Mine");
     EXPECT_EQ(*choice->get_media_configuration()->get_media_settings()->get_media_bounds(),
               PX_Float_XY(2592, 3456));
@@ -401,19 +435,6 @@ TEST_F(Plot_Host, ReportAndPictureTellWhatBecameOfTheSheet) {
     EXPECT_EQ(on_roll.out.find("No size was near enough"), std::string::npos) << on_roll.out;
 }
 
-TEST(Report, ShowsBytesReadably) {
-    const auto readable = [](const std::string& bytes) {
-        const PX_Dev_String string = support::dev_string(bytes);
-        return plot_host::readable(&string);
-    };
-    EXPECT_EQ(plot_host::readable(nullptr), "(none)");
-    EXPECT_EQ(readable(""), "(empty)");
-    EXPECT_EQ(readable(std::string("\x1B~ \x7F\0\xFF", 6)), R"("\x1b~ \x7f\x00\xff")");
-    EXPECT_EQ(readable(std::string(40, 'a')), '"' + std::string(40, 'a') + '"');
-    EXPECT_EQ(readable(std::string(33, 'a') + "12345678"),
-              '"' + std::string(26, 'a') + R"(" ... "12345678" (41 bytes))");
-}
-
 TEST(Text, TakesWhatIsNoUtf8ForLatin1) {
     EXPECT_EQ(text::from_utf8("a\xC3\xA9\xE2\x82\xAC\xF0\x9F\x96\xA8"), L"aé€\U0001F5A8");
     for (const std::string_view bytes :
@@ -423,7 +444,7 @@ TEST(Text, TakesWhatIsNoUtf8ForLatin1) {
         for (std::size_t at = 0; at < bytes.size(); ++at)
             EXPECT_EQ(wide[at], static_cast<wchar_t>(static_cast<unsigned char>(bytes[at])));
     }
-    EXPECT_EQ(text::on_one_line("\u0085a\x7F\u009F b\u2028\u2029\u00A0c\xE9\n"), "a b \u00A0c\xE9");
+    EXPECT_EQ(text::on_one_line("\u0085a\x7F\u009F b\u2028\u2029\u00A0c\xE9\n"), "a b \u00A0c\u00E9");
     const std::wstring all_lengths = L"a\u00E9\u20AC\U0001F5A8";
     EXPECT_EQ(text::from_utf8(text::to_utf8(all_lengths)), all_lengths);
 }

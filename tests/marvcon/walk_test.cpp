@@ -1,23 +1,18 @@
 #include <gtest/gtest.h>
 
 #include <fstream>
-#include <iterator>
 #include <set>
 #include <sstream>
 #include <string>
 #include <utility>
 #include <vector>
 
-#include "tests/support/io.h"
-#include "tests/support/media.h"
-#include "tests/support/rcm.h"
-#include "toolkit/core/module.h"
+#include "tests/support/walk_rows.h"
 #include "toolkit/marvcon/std_init_term_cfg/domain.h"
 #include "toolkit/marvcon/std_io_cfg/domain.h"
 #include "toolkit/marvcon/std_media_cfg/domain.h"
 #include "toolkit/marvcon/std_phys_pen_cfg/domain.h"
 #include "toolkit/marvcon/std_res_color_mem_cfg/domain.h"
-#include "toolkit/platform/scripted/scripted_platform.h"
 
 // Every row of the walk by itself. Each datum is conditional, which Keep_Conditional leaves alone; a single
 // ability is made fixed, which resets, or settable, which validates.
@@ -27,17 +22,6 @@ namespace {
 using namespace support;
 using Policy = PX_Validation_Policy;
 using Value = PX_Ability_Value;
-
-// One datum: its ability, its flag and the bits that repairing it raises, 0 where nothing is ever repaired.
-// `spoil` chooses what the device does not have; `settled_too` are the flags that follow it.
-template <class Bench>
-struct Row {
-    int ability;
-    int datum;
-    long bits;
-    void (*spoil)(Bench&);
-    std::set<int> settled_too = {};
-};
 
 // A row of the table on the page, which is read by hosts and drivers: it tells what the walk does.
 struct Told {
@@ -96,28 +80,27 @@ std::set<int> numbers(int count, Call holds) {
     return found;
 }
 
-void make_all_conditional(const PX_Plotter_Capabilities& caps) {
-    caps.get_media_capabilities()->set_abilities(Value::Ability_Conditional);
-    caps.get_phys_pen_capabilities()->set_abilities(Value::Ability_Conditional);
-    caps.get_res_color_mem_capabilities()->set_abilities(Value::Ability_Conditional);
-    caps.get_init_term_capabilities()->set_abilities(Value::Ability_Conditional);
-    caps.get_io_capabilities()->set_abilities(Value::Ability_Conditional);
+// The flags of a mask of them.
+template <class Domain>
+std::set<int> flags_in(int mask) {
+    return numbers(flag_count<Domain>, [mask](int flag) { return (mask >> flag & 1) != 0; });
 }
 
-template <class Domain, class Bench, std::size_t count>
-void expect_rows(const char* domain, const Row<Bench> (&rows)[count]) {
+template <class Domain, class Bench>
+void expect_rows(const char* domain, const std::vector<Row<Bench>>& rows) {
     std::size_t at = 0;
     for (const Told& told : told_on_the_page()) {
         if (told.domain != domain)
             continue;
-        ASSERT_LT(at, count) << told.datum;
+        ASSERT_LT(at, rows.size()) << told.datum;
         const auto& row = rows[at++];
         std::vector<int> flags = {row.datum};
-        flags.insert(flags.end(), row.settled_too.begin(), row.settled_too.end());
+        for (const int flag : flags_in<Domain>(row.settled_too))
+            flags.push_back(flag);
         EXPECT_TRUE(told.ability == row.ability && told.flags == flags && told.bits == row.bits)
             << told.datum;
     }
-    EXPECT_EQ(at, count);
+    EXPECT_EQ(at, rows.size());
     for (const auto& row : rows) {
         for (const auto ability :
              {Value::Ability_Conditional, Value::Ability_Fixed, Value::Ability_Settable}) {
@@ -149,7 +132,7 @@ void expect_rows(const char* domain, const Row<Bench> (&rows)[count]) {
                     if (other.ability == row.ability)
                         reached.insert(other.datum);
                 }
-                reached.insert(row.settled_too.begin(), row.settled_too.end());
+                reached.merge(flags_in<Domain>(row.settled_too));
             }
             constexpr int flags = flag_count<Domain>;
             EXPECT_EQ(numbers(flags, [&](int flag) { return cfg->get_one_validated(Number{flag}); }),
@@ -166,104 +149,23 @@ void expect_rows(const char* domain, const Row<Bench> (&rows)[count]) {
 }
 
 TEST(Walk, ReachesEachMediaDatum) {
-    using B = Media_Device;
-    static const PX_Float_Rectangle outside(-9, 9999, -9, 9999);
-    static const PX_Float_XY smaller(209, 297);
-    static const PX_Float_Rectangle inside(50, 60, 50, 60);
-    // clang-format off
-    const Row<B> rows[] = {
-        {0, 0, 0x40, [](B& b) { b.cfg->set_media_selection_method(Number{0x40}); }},
-        {10, 1, 0x80, [](B& b) { drop(b.types(), L"plain"); }},
-        {1, 2, 0x1, [](B& b) { b.tray()->set_media_feed(Number{2}); }},
-        {3, 3, 0x20000, [](B& b) { drop(b.entries(), L"upper"); }},
-        // The default size is a smaller one.
-        {5, 4, 0x2, [](B& b) { b.a4_sheet()->set_media_bounds(&smaller); b.cfg->set_margins(&inside); }},
-        {7, 5, 0x1E004, [](B& b) { drop(b.destinations(), L"bin"); }, {13, 14, 15, 16}},
-        {23, 6, 0x10, [](B& b) { b.cfg->set_number_of_copies(6); }},
-        {22, 7, 0x8, [](B& b) { b.cfg->set_duplexing_mode(Number{8}); }},
-        {5, 8, 0x20, [](B& b) { b.cfg->set_margins(&outside); }},
-        {25, 9, 0x200, [](B& b) { b.cfg->set_longplot_reduction(0.5); }},
-        {28, 10, 0x400, [](B& b) { b.cfg->set_dm_scale(0); }},
-        {29, 11, 0x800, [](B& b) { b.cfg->set_dm_orientation(7); }},
-        {13, 12, 0x1000, [](B& b) { b.cfg->set_actual_printable_bounds(&outside); }},
-    };
-    // clang-format on
-    expect_rows<PX_Media_Domain>("media", rows);
+    expect_rows<PX_Media_Domain>("media", media_rows());
 }
 
-// A plotter of up to 8 pens, whose user has none.
-struct Pen_Device : Device {
-    Pen_Device() {
-        pen_caps()->set_abilities(Value::Ability_Required);
-        pen_caps()->set_max_number_of_physical_pens(8);
-    }
-};
-
 TEST(Walk, ReachesEachPenDatum) {
-    using B = Pen_Device;
-    const Row<B> rows[] = {
-        {0, 0, 0x1, [](B& b) { b.pen_cfg()->set_number_of_physical_pens(9); }},
-        {16, 1, 0x10, [](B& b) { b.pen_cfg()->set_number_of_physical_pens(3); }},
-        {15, 4, 0x2, [](B& b) { b.pen_cfg()->set_pen_changing_enable(true); }},
-        {2, 2, 0x4, [](B& b) { b.pen_cfg()->set_area_fill_correction(true); }},
-        {6, 3, 0x8, [](B& b) { b.pen_cfg()->set_pen_optimization(1); }},
-    };
-    expect_rows<PX_Pen_Domain>("pens", rows);
+    expect_rows<PX_Pen_Domain>("pens", pen_rows());
 }
 
 TEST(Walk, ReachesEachDatumOfResolutionColourAndMemory) {
-    using B = RCM_Device;
-    // clang-format off
-    const Row<B> rows[] = {
-        {1, 0, 0x1, [](B& b) { b.color()->set_color_depth(9); }},
-        {3, 1, 0x2, [](B& b) { b.normal()->set_addr_resolution_xy(nullptr); }},
-        {13, 7, 0x80, [](B& b) { b.cfg->set_hardsoftno_dithering(Number{0}); }},
-        {23, 11, 0, [](B& b) { b.cfg->set_lines_overwrite(false); }},
-        {14, 8, 0, [](B&) {}},
-        {15, 9, 0x200, [](B& b) { b.cfg->set_rast_color_vs_res_pref(101); }},
-        {16, 10, 0x400, [](B& b) { b.set_ability(7, 5); }},
-        {11, 5, 0x20, [](B& b) { b.driver().lacks_memory = true; }},
-        {12, 6, 0x40, [](B& b) { b.driver().lacks_memory = true; }},
-        {19, 2, 0x4, [](B& b) { b.cfg->set_icm_method(0); }},
-        {20, 3, 0x8, [](B& b) { b.cfg->set_icm_intent(0); }},
-        {21, 4, 0x10, [](B& b) { b.cfg->set_dm_color(3); }},
-    };
-    // clang-format on
-    expect_rows<PX_RCM_Domain>("color", rows);
+    expect_rows<PX_RCM_Domain>("color", color_rows());
 }
 
 TEST(Walk, ReachesEachDeviceString) {
-    const Row<Device> rows[] = {
-        {0, 0, 0, [](Device&) {}}, {1, 1, 0, [](Device&) {}}, {2, 2, 0, [](Device&) {}}};
-    expect_rows<PX_InitTerm_Domain>("strings", rows);
+    expect_rows<PX_InitTerm_Domain>("strings", string_rows());
 }
 
-// With its machine, which has both of its ports.
-struct IO_Machine : PX_Scripted_Platform {
-    IO_Machine() {
-        PX_Module_Exit();
-        add_port(L"COM1:");
-        add_port(L"LPT1:");
-    }
-    ~IO_Machine() { PX_Module_Exit(); }
-};
-struct Connected_Device : IO_Device {
-    IO_Machine machine;
-    const PX_Use_Platform use{machine};
-};
-
 TEST(Walk, ReachesEachOutputDatum) {
-    using B = Connected_Device;
-    const Row<B> rows[] = {
-        {2, 1, 0x3, [](B& b) { b.cfg.set_portname(L"COM9"); }, {0}},
-        {5, 2, 0x4, [](B& b) { b.cfg.set_protocol(L"gone"); }},
-        {6, 3, 0x8, [](B& b) { b.cfg.set_baud_rate(1); }},
-        {7, 4, 0x10, [](B& b) { b.cfg.set_handshake(64); }},
-        {9, 5, 0x20, [](B& b) { b.cfg.set_input_timeout(101); }},
-        {8, 6, 0x40, [](B& b) { b.cfg.set_output_timeout(201); }},
-        {11, 7, 0x80, [](B& b) { b.cfg.set_plot_to_file(true); }},
-    };
-    expect_rows<PX_IO_Domain>("output", rows);
+    expect_rows<PX_IO_Domain>("output", output_rows());
 }
 
 // The operations of the standard validators give way to ones that tell who was called.

@@ -5,9 +5,9 @@
 #include <string>
 #include <vector>
 
-#include "examples/common/custom_values.h"
 #include "examples/common/listed_setting.h"
 #include "examples/common/made.h"
+#include "toolkit/report.h"
 
 namespace {
 
@@ -47,7 +47,7 @@ template <class Kind>
 Kind chosen(const PX_Plotter_Configuration& configuration, const wchar_t* name, const Kind& otherwise) {
     const auto settings = configuration.get_custom_configuration();
     const auto item = settings ? settings->get_custom(name) : nullptr;
-    const Custom_Value value = item ? value_of(*item) : Custom_Value();
+    const PX_Item_Value value = item ? px_item_value_of(*item) : PX_Item_Value();
     const Kind* const found = std::get_if<Kind>(&value);
     return found ? *found : otherwise;
 }

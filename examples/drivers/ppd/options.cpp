@@ -3,11 +3,11 @@
 #include <map>
 #include <vector>
 
-#include "examples/common/custom_values.h"
 #include "examples/common/listed_setting.h"
 #include "examples/common/made.h"
 #include "examples/drivers/ppd/media.h"
 #include "examples/drivers/ppd/res_color_mem.h"
+#include "toolkit/report.h"
 
 namespace {
 
@@ -48,7 +48,7 @@ std::string ppd_settings_code(const Ppd_File& file, const PX_Plotter_Definition&
     std::map<std::wstring, std::wstring> choices;
     if (items) {
         for (const auto& item : *items) {
-            const Custom_Value value = value_of(*item);
+            const PX_Item_Value value = px_item_value_of(*item);
             const auto* const name = std::get_if<std::wstring>(&value);
             if (name && settings->get_custom(item->get_canonical_name()))
                 choices.emplace(item->get_canonical_name(), *name);

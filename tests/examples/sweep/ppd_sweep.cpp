@@ -12,10 +12,10 @@
 #include "examples/drivers/ppd/definition.h"
 #include "examples/plot_host/configuration.h"
 #include "examples/plot_host/host_error_handler.h"
-#include "examples/plot_host/report.h"
 #include "examples/plot_host/saved_choice.h"
 #include "tests/examples/sweep/custom_choices.h"
 #include "tests/examples/sweep/draw.h"
+#include "toolkit/report.h"
 
 // Opens every description of a folder, and on every device a choice that was made on another one. A run over
 // the choice must leave it so that a second run changes nothing, and must not fail. The table of what was
@@ -212,10 +212,10 @@ private:
         const auto validator = device.get_plotter_validator();
         without_failure("own defaults", [&] {
             validator->set_all_to_defaults();
-            const auto before = plot_host::take_snapshot(*configuration);
+            const auto before = PX_Configuration_Snapshot(*configuration);
             clear_validated(*configuration);
             validator->validate_all(Strategy::Use_Nearest, Policy::Validate_Conditional, true);
-            for_each_difference(before, plot_host::take_snapshot(*configuration),
+            for_each_difference(before, PX_Configuration_Snapshot(*configuration),
                                 [&](const std::string& datum, const std::string& change) {
                                     m_faults.count("own default changed: " + datum, m_where + change);
                                 });
@@ -237,10 +237,10 @@ private:
         m_dropped += choice.items->size() - items->size();
         const auto validator = device.get_plotter_validator();
         ++m_runs;
-        const auto before = plot_host::take_snapshot(*configuration);
+        const auto before = PX_Configuration_Snapshot(*configuration);
         if (!without_failure(word_for(strategy), [&] { validator->validate_all(strategy, policy, true); }))
             return;
-        const auto once = plot_host::take_snapshot(*configuration);
+        const auto once = PX_Configuration_Snapshot(*configuration);
         for_each_difference(before, once, [&](const std::string& datum, const std::string& change) {
             m_repaired.count(std::string(word_for(strategy)) + ": " + datum, m_where + change);
         });
@@ -256,7 +256,7 @@ private:
         if (check_settings(device, *items_once, "second run"))
             m_faults.count("second run: a setting", m_where);
         count_bits_of_second_run(validator->get_media_cfg_changes(), strategy);
-        for_each_difference(once, plot_host::take_snapshot(*configuration),
+        for_each_difference(once, PX_Configuration_Snapshot(*configuration),
                             [&](const std::string& datum, const std::string& change) {
                                 m_faults.count(std::string(word_for(strategy)) + ", second run: " + datum,
                                                m_where + change);
@@ -332,11 +332,12 @@ private:
     }
 
     template <class Report>
-    static void for_each_difference(const plot_host::Snapshot& before, const plot_host::Snapshot& after,
-                                    Report report) {
-        for (std::size_t at = 0; at < before.size(); ++at) {
-            if (before[at].exact != after[at].exact)
-                report(before[at].name, ": " + before[at].shown + " -> " + after[at].shown);
+    static void for_each_difference(const PX_Configuration_Snapshot& before,
+                                    const PX_Configuration_Snapshot& after, Report report) {
+        for (const PX_Datum_Value& was : before.get_values()) {
+            const PX_Datum_Value* const now = after.find(was.datum);
+            if (now && was.exact != now->exact)
+                report(was.name, ": " + was.shown + " -> " + now->shown);
         }
     }
 
@@ -367,11 +368,11 @@ private:
             m_choices.push_back({text.str(), copy_of_items(device)});
             const auto restored = plot_host::new_configuration(device);
             plot_host::load_choice(m_scratch, *restored);
-            for_each_difference(plot_host::take_snapshot(*configuration), plot_host::take_snapshot(*restored),
-                                [&](const std::string& datum, const std::string& change) {
-                                    m_faults.count("changed by saving and loading: " + datum,
-                                                   m_where + change);
-                                });
+            for_each_difference(
+                PX_Configuration_Snapshot(*configuration), PX_Configuration_Snapshot(*restored),
+                [&](const std::string& datum, const std::string& change) {
+                    m_faults.count("changed by saving and loading: " + datum, m_where + change);
+                });
         });
     }
 

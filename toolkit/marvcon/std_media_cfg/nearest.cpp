@@ -1,3 +1,5 @@
+#include "toolkit/marvcon/std_media_cfg/nearest.h"
+
 #include <cmath>
 #include <cwchar>
 
@@ -92,6 +94,13 @@ private:
     Measure m_printable_y;
 };
 
+double type_score(const PX_Media_Type& type, const PX_Float_XY& had_resolution, long had_drying_time) {
+    const auto has = type.get_max_resolution();
+    const double x = std::fabs(has->x - had_resolution.x) * 10.0F;
+    const double y = std::fabs(has->y - had_resolution.y) * 10.0F;
+    return x + y + px_distance_32(type.get_drying_time(), had_drying_time);
+}
+
 // Calls `visit(size, description)` for the sizes that the configured entry names, until it gives false.
 template <class Visit>
 void for_each_size_of_source(const PX_Media_Datum& datum, Visit visit) {
@@ -135,6 +144,39 @@ void for_each_size(const PX_Media_Datum& datum, Visit visit) {
 
 }  // namespace
 
+double px_media_size_score(const PX_Media_Settings& had, const wchar_t* had_name, const PX_Media_Size& size,
+                           const PX_Media_Description& description) {
+    return Size_Score(had, had_name).of(size, description);
+}
+
+double px_media_type_score(const PX_Media_Settings& had, const PX_Media_Type& type) {
+    return type_score(type, *had.get_max_resolution(), had.get_drying_time());
+}
+
+double px_media_source_entry_score(const PX_Media_Settings& had, const PX_Media_Source_Entry& entry) {
+    const double width = std::fabs(entry.get_source_width() - had.get_source_width());
+    const double height = std::fabs(entry.get_source_frame_height() - had.get_source_frame_height());
+    return width + height;
+}
+
+int px_media_destination_score(const PX_Media_Capabilities& capabilities, const PX_Media_Configuration& had,
+                               const PX_Media_Settings& had_settings,
+                               const PX_Media_Destination& destination) {
+    int mismatches = 0;
+    const auto compare = [&](Ability::Enum flag, auto option) {
+        if (capabilities.get_one_ability(flag) >= PX_Ability_Value::Ability_Settable_Listed &&
+            !px_finishing_stands(had_settings, option()))
+            ++mismatches;
+    };
+    compare(Ability::Ability_Media_Collating,
+            [&] { return destination.get_collating(had.get_media_collating()); });
+    compare(Ability::Ability_Media_Stapling,
+            [&] { return destination.get_stapling(had.get_media_stapling()); });
+    compare(Ability::Ability_Media_Cutting, [&] { return destination.get_cutting(had.get_media_cutting()); });
+    compare(Ability::Ability_Media_Folding, [&] { return destination.get_folding(had.get_media_folding()); });
+    return mismatches;
+}
+
 bool PX_Std_Media_Validator::set_size_to_nearest() {
     const PX_Media_Datum datum(m_plotter, L"PX_Std_Media_Validator::set_size_to_nearest");
     const auto had = datum.configuration->get_media_settings();
@@ -166,10 +208,7 @@ void PX_Std_Media_Validator::set_type_to_nearest() {
         for (const auto& type : *types) {
             if (!px_is_there(type))
                 continue;
-            const auto has = type->get_max_resolution();
-            const double x = std::fabs(has->x - resolution.x) * 10.0F;
-            const double y = std::fabs(has->y - resolution.y) * 10.0F;
-            best.offer(x + y + px_distance_32(type->get_drying_time(), had->get_drying_time()), *type);
+            best.offer(type_score(*type, resolution, had->get_drying_time()), *type);
         }
     }
     const auto type = datum.capabilities->get_media_type(best.name());
@@ -201,12 +240,8 @@ void PX_Std_Media_Validator::set_source_entry_to_nearest() {
     Best best(worst_score);
     if (const auto entries = source ? source->get_source_entry_list() : nullptr) {
         for (const auto& entry : *entries) {
-            if (!px_is_there(entry))
-                continue;
-            const double width = std::fabs(entry->get_source_width() - had->get_source_width());
-            const double height =
-                std::fabs(entry->get_source_frame_height() - had->get_source_frame_height());
-            best.offer(width + height, *entry);
+            if (px_is_there(entry))
+                best.offer(px_media_source_entry_score(*had, *entry), *entry);
         }
     }
     const auto entry = source ? source->get_source_entry(best.name()) : nullptr;
@@ -222,20 +257,7 @@ void PX_Std_Media_Validator::set_destination_to_nearest() {
         for (const auto& destination : *destinations) {
             if (!px_is_there(destination))
                 continue;
-            int mismatches = 0;
-            const auto compare = [&](Ability::Enum flag, auto option) {
-                if (datum.is_listed(flag) && !px_finishing_stands(*had, option()))
-                    ++mismatches;
-            };
-            const auto& there = *destination;
-            compare(Ability::Ability_Media_Collating,
-                    [&] { return there.get_collating(cfg.get_media_collating()); });
-            compare(Ability::Ability_Media_Stapling,
-                    [&] { return there.get_stapling(cfg.get_media_stapling()); });
-            compare(Ability::Ability_Media_Cutting,
-                    [&] { return there.get_cutting(cfg.get_media_cutting()); });
-            compare(Ability::Ability_Media_Folding,
-                    [&] { return there.get_folding(cfg.get_media_folding()); });
+            const int mismatches = px_media_destination_score(*datum.capabilities, cfg, *had, *destination);
             best.offer(mismatches, *destination);
             if (mismatches == 0)
                 break;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 #include "toolkit/core/exception.h"
 #include "toolkit/core/flags.h"
 #include "toolkit/core/smart_pointer.h"
@@ -33,6 +35,12 @@ struct PX_Validator_Action {
         Validate = 2,  // unless its validated flag is set
     };
 };
+
+// What a run does with a datum of that ability; nothing for an ability outside 0 to 5. A policy outside its
+// enum acts as Reset_Conditional.
+PX_EXPORT std::optional<PX_Validator_Action::Enum> px_validator_action(PX_Ability_Value::Enum ability,
+                                                                       PX_Validation_Policy::Enum policy,
+                                                                       bool validate_settable);
 
 // The bits of a domain mask.
 struct PX_Domain_Mask {

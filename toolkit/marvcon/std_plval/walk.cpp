@@ -191,29 +191,37 @@ void PX_Std_Plotter_Validator::validate_io_datum(
                                  datum, validate, set_to_default);
 }
 
-PX_Validator_Action::Enum PX_Std_Plotter_Validator::check_validate_datum(
-    PX_Ability_Value::Enum ability) const {
+std::optional<PX_Validator_Action::Enum> px_validator_action(PX_Ability_Value::Enum ability,
+                                                             PX_Validation_Policy::Enum policy,
+                                                             bool validate_settable) {
     using Policy = PX_Validation_Policy;
     using Action = PX_Validator_Action;
     switch (ability) {
         case PX_Ability_Value::Ability_None:
             return Action::Set_To_Default;
         case PX_Ability_Value::Ability_Fixed:
-            return m_policy == Policy::Keep_All ? Action::No_Action : Action::Set_To_Default;
+            return policy == Policy::Keep_All ? Action::No_Action : Action::Set_To_Default;
         case PX_Ability_Value::Ability_Settable:
         case PX_Ability_Value::Ability_Settable_Listed:
-            if (m_policy == Policy::Keep_All)
+            if (policy == Policy::Keep_All)
                 return Action::No_Action;
-            return m_validate_settable ? Action::Validate : Action::Set_To_Default;
+            return validate_settable ? Action::Validate : Action::Set_To_Default;
         case PX_Ability_Value::Ability_Conditional:
-            if (m_policy == Policy::Keep_All || m_policy == Policy::Keep_Conditional)
+            if (policy == Policy::Keep_All || policy == Policy::Keep_Conditional)
                 return Action::No_Action;
-            // A policy outside the enum acts as the one that resets.
-            return m_policy == Policy::Validate_Conditional ? Action::Validate : Action::Set_To_Default;
+            return policy == Policy::Validate_Conditional ? Action::Validate : Action::Set_To_Default;
         case PX_Ability_Value::Ability_Required:
             return Action::Validate;
         default:
-            throw MVNK_Error(PX_Code::Bad_Ability, L"PX_Std_Plotter_Validator::check_validate_datum", nullptr,
-                             px_std_plval_source.file_tag);
+            return std::nullopt;
     }
+}
+
+PX_Validator_Action::Enum PX_Std_Plotter_Validator::check_validate_datum(
+    PX_Ability_Value::Enum ability) const {
+    const auto action = px_validator_action(ability, m_policy, m_validate_settable);
+    if (!action)
+        throw MVNK_Error(PX_Code::Bad_Ability, L"PX_Std_Plotter_Validator::check_validate_datum", nullptr,
+                         px_std_plval_source.file_tag);
+    return *action;
 }

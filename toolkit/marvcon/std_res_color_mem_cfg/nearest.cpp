@@ -1,3 +1,5 @@
+#include "toolkit/marvcon/std_res_color_mem_cfg/nearest.h"
+
 #include <cmath>
 #include <limits>
 
@@ -64,6 +66,14 @@ PX_String nearest_name(const PX_Smart_Pointer<PX_Named_Object_List<Entry>>& list
 }
 
 }  // namespace
+
+double px_color_mode_score(const PX_ResColorMem_Settings& had, const PX_ResColorMem& mode) {
+    return distance(mode, had);
+}
+
+float px_resolution_score(const PX_ResColorMem_Settings& had, const PX_Resolution& resolution) {
+    return distance(resolution, had);
+}
 
 void PX_Std_ResColorMem_Validator::set_res_color_mem_to_nearest() {
     const PX_RCM_Datum datum(m_plotter, L"PX_Std_ResColorMem_Validator::set_res_color_mem_to_nearest");

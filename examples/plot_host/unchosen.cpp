@@ -1,7 +1,7 @@
+#include "examples/plot_host/unchosen.h"
+
 #include <sstream>
 #include <string>
-
-#include "examples/plot_host/report.h"
 
 namespace plot_host {
 namespace {

@@ -1,6 +1,6 @@
-#include "examples/common/custom_values.h"
+#include "toolkit/report/item_value.h"
 
-Custom_Value value_of(const PX_Custom_Config_Item& item) {
+PX_Item_Value px_item_value_of(const PX_Custom_Config_Item& item) {
     const auto value = item.get_config_value();
     const PX_Custom_Data* const data = value.get();
     if (const auto* const text = dynamic_cast<const PX_String_Custom_Data*>(data))

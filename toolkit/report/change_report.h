@@ -1,0 +1,111 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "toolkit/report/snapshot.h"
+
+// What a run of the plotter validator is asked to do.
+struct PX_Validation_Order {
+    PX_Validation_Strategy::Enum strategy = PX_Validation_Strategy::Use_Nearest;
+    PX_Validation_Policy::Enum policy = PX_Validation_Policy::Validate_Conditional;
+    bool validate_settable = true;
+};
+
+// What became of a datum, and how.
+struct PX_Change_Kind {
+    enum Enum : int {
+        // The value is what it was; its bit may be raised all the same.
+        Kept = 0,
+        // Not looked at, but put to its default: the ability that gates the datum lets nobody choose under
+        // the policy.
+        Reset = 1,
+        // It was not valid and went to its default, also where the search found the default to be as near as
+        // anything, or nothing near enough.
+        To_Default = 2,
+        // It was not valid and went to the nearest that the device has. A default of the output that the
+        // machine cannot do goes on to the nearest too.
+        To_Nearest = 3,
+        // It was not valid and was put right by its own rule, whatever the strategy: bounds are cut to the
+        // printable ones, pens are put within their limits and made to fit their number, a dithering follows
+        // from the resolution.
+        Put_Right = 4,
+        // It was not repaired itself: it came along with another datum, as the printable bounds come with the
+        // size, or the test of the output let all ports of the machine serve. Also what a driver's rule has
+        // changed without telling.
+        Followed = 5,
+        // A custom item that was not there before, or is there no more.
+        Appeared = 6,
+        Gone = 7,
+    };
+};
+
+struct PX_Datum_Change {
+    PX_Datum_Id datum;
+    // In UTF-8, on one line. A custom item has the name that the device shows for it, in quotes, and its
+    // canonical name in parentheses where that differs.
+    std::string name;
+    // Nothing for what was not there, or is there no more.
+    std::optional<PX_Datum_Value> before;
+    std::optional<PX_Datum_Value> after;
+    PX_Change_Kind::Enum kind = PX_Change_Kind::Kept;
+    // How far the nearest lies from what was chosen, by the formula of its search. Nothing for another kind,
+    // and for a search that has no measure: sources, copies, the output, the raster preference.
+    std::optional<double> score{};
+    // The ability of the datum itself, and its number in the ability flags of the domain. Custom data have
+    // neither.
+    std::optional<PX_Ability_Value::Enum> ability{};
+    int ability_number = -1;
+    // The bits of the domain's change word that the run has raised for the datum; for the size, with the bit
+    // that tells of none near enough. A custom item has no bits: its name is recorded.
+    long change_bits = 0;
+    bool is_raised = false;
+    bool is_validated = false;
+    bool is_default = false;
+
+    // Whether the value is another one now.
+    bool is_changed() const { return before && after && kind != PX_Change_Kind::Kept; }
+    // What takes hosts by surprise.
+    bool is_silent() const { return is_changed() && !is_raised; }
+};
+
+// What a run of the plotter validator made of a choice: a row for each datum of the walk, changed or not. A
+// row is changed when its value is another one; no change bit is trusted for that.
+class PX_Change_Report {
+public:
+    // The run is the last one of the plotter validator, and `before` was taken ahead of it; `order` is what
+    // it was asked to do. A missing root, validator or domain is MVNK_Error 1103, "plotter", "configuration"
+    // or "capabilities". How a datum was changed is told by the rules of the standard validators, out of its
+    // ability, the order, its change bit and its default flag.
+    PX_Change_Report(const PX_Configuration_Snapshot& before, const PX_Plotter_Definition& plotter,
+                     const PX_Validation_Order& order);
+
+    // In the order of the snapshot, what is gone last.
+    const std::vector<PX_Datum_Change>& get_rows() const& { return m_rows; }
+    // Null for a datum of neither side.
+    const PX_Datum_Change* find(const PX_Datum_Id& datum) const&;
+    // Not of a report that goes at once.
+    const std::vector<PX_Datum_Change>& get_rows() const&& = delete;
+    const PX_Datum_Change* find(const PX_Datum_Id& datum) const&& = delete;
+    const PX_Validation_Order& get_order() const { return m_order; }
+
+    // How many rows have another value now, how many of those without a change bit, and how many came and
+    // went.
+    long get_changed() const;
+    long get_silent() const;
+    long get_appeared() const { return count(PX_Change_Kind::Appeared); }
+    long get_gone() const { return count(PX_Change_Kind::Gone); }
+
+    // Domain masks, as the validator told them after the run.
+    long get_config_changed() const { return m_config_changed; }
+    long get_caps_changed() const { return m_caps_changed; }
+
+private:
+    long count(PX_Change_Kind::Enum kind) const;
+
+    PX_Validation_Order m_order;
+    std::vector<PX_Datum_Change> m_rows;
+    long m_config_changed = 0;
+    long m_caps_changed = 0;
+};

@@ -1,10 +1,6 @@
 #include <gtest/gtest.h>
 
-#include <filesystem>
-#include <fstream>
 #include <memory>
-#include <optional>
-#include <random>
 #include <sstream>
 
 #include "tests/support/test_handler.h"
@@ -160,26 +156,6 @@ TEST_F(Error_Handler, LogsInTheCodePageAndAppends) {
     m_handler.error(texts(), 1103, L"f", L"d", L"tag");
     EXPECT_TRUE(m_machine.log_of(L"log").ends_with("outer\nError: f\nMissing. d tag\n\n"));
     EXPECT_EQ(m_machine.boxes().back().text, L"Missing.") << "shown as well as logged";
-}
-
-// On the machine itself, whose streams have buffers.
-TEST(Log, CanBeReadWhileTheHandlerLives) {
-    const auto name =
-        std::filesystem::temp_directory_path() / ("marvcon_log_" + std::to_string(std::random_device()()));
-    std::optional<Test_Handler> handler(std::in_place);
-    handler->set_log_handle(name.wstring().c_str());
-    const auto written = [&] {
-        std::ostringstream bytes;
-        bytes << std::ifstream(name).rdbuf();
-        return bytes.str();
-    };
-    handler->LogMessage(L"a", L"message");
-    EXPECT_EQ(written(), "a: message\n\n");
-    const wchar_t* names[] = {L"frame"};
-    handler->LogPath(names, 1);
-    EXPECT_EQ(written(), "a: message\n\nPath:\nframe\n");
-    handler.reset();  // an open file cannot be removed everywhere
-    std::filesystem::remove(name);
 }
 
 TEST_F(Error_Handler, AnotherLogNameClosesTheLogAndIsNotStored) {

@@ -10,6 +10,8 @@
 #include <cfenv>
 #include <cmath>
 #include <filesystem>
+#include <fstream>
+#include <sstream>
 #include <stdexcept>
 #include <string>
 #include <thread>
@@ -17,6 +19,7 @@
 #include <utility>
 
 #include "tests/support/terminal.h"
+#include "tests/support/test_handler.h"
 #include "toolkit/platform/floating_point_guard.h"
 #include "toolkit/platform/utf8.h"
 
@@ -47,6 +50,24 @@ private:
 volatile double one = 1.0;
 volatile double three = 3.0;
 volatile long double zero = 0.0L;
+// Streams have buffers.
+TEST(Log, CanBeReadWhileTheHandlerLives) {
+    const auto name = fs::temp_directory_path() / ("marvcon_log_" + std::to_string(getpid()));
+    support::Test_Handler handler;
+    handler.set_log_handle(name.wstring().c_str());
+    const auto written = [&] {
+        std::ostringstream bytes;
+        bytes << std::ifstream(name).rdbuf();
+        return bytes.str();
+    };
+    handler.LogMessage(L"a", L"message");
+    EXPECT_EQ(written(), "a: message\n\n");
+    const wchar_t* names[] = {L"frame"};
+    handler.LogPath(names, 1);
+    EXPECT_EQ(written(), "a: message\n\nPath:\nframe\n");
+    fs::remove(name);
+}
+
 }  // namespace
 
 TEST(PosixMessageBox, TakesALetterOrAWordAndAsksAgain) {

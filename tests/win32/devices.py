@@ -290,7 +290,7 @@ def serial_port(machine):
         host.expect("close", "closed")
         expect_bytes("with the line's own settings", line.collected(), 10)
 
-        host.expect("to serial 8N1 9600 0 500 20000 COM12", "set")
+        host.expect("to serial 8N1 9600 0 500 20000 COM12:", "set")
         host.expect("open", "open")
         host.expect("close", "closed")
         host.expect("to serial 8N1 9600 0 500 20000 COM99", "set")

@@ -23,6 +23,7 @@ int wmain(int, wchar_t** arguments) {
     expect(library, "the library is loaded");
     if (!library)
         return 1;
+    expect(DisableThreadLibraryCalls(library), "it need not be called for each thread");
     const FARPROC procedure = GetProcAddress(library, "_Z18GetMVNErrResHandlev");
     expect(procedure, "it has the way to the texts");
     if (!procedure)

@@ -39,7 +39,8 @@ public:
     void terminal_error(unsigned long long module, unsigned int code, const wchar_t* function,
                         const wchar_t* detail, const wchar_t* file) override;
 
-    // The log is opened for appending at its first message, in the system code page. With a log open, the
+    // The log is opened for appending at its first message, in the system code page; on Windows, nobody else
+    // has it meanwhile. With a log open, the
     // same name changes nothing; another name closes it and leaves no name at all, so that logging stops
     // until the next call.
     bool set_log_handle(const wchar_t* name) override;

@@ -12,6 +12,8 @@
 #    include <windows.h>
 #    include <winnetwk.h>
 #    include <winspool.h>
+
+static_assert(sizeof(OSVERSIONINFOW) == 276);
 #else
 #    include <cstdint>
 
@@ -256,5 +258,6 @@ struct LOGFONTW {
     BYTE lfPitchAndFamily;
     char16_t lfFaceName[32];  // UTF-16 everywhere: the record goes to devices and hosts as it is
 };
-static_assert(sizeof(LOGFONTW) == 92);
 #endif
+
+static_assert(sizeof(LOGFONTW) == 92);

@@ -161,8 +161,9 @@ long PX_Std_Plotter_IO::read(char* buffer, unsigned long size) {
     if (m_aborted)
         return -1;
     auto& platform = PX_Get_Platform();
-    const auto wanted =
-        static_cast<DWORD>(std::min<unsigned long long>(size, std::numeric_limits<DWORD>::max()));
+    // No more than the record takes and the answer can tell.
+    const auto wanted = static_cast<DWORD>(std::min<unsigned long long>(
+        {size, std::numeric_limits<DWORD>::max(), std::numeric_limits<long>::max()}));
     DWORD count = 0;
     const BOOL done = goes_to_queue() ? platform.ReadPrinter(m_device, buffer, wanted, &count)
                                       : platform.ReadFile(m_device, buffer, wanted, &count, nullptr);

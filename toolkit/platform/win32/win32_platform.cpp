@@ -22,15 +22,19 @@ __attribute__((constructor(101))) void have_unload_called() {
     std::atexit(unload);
 }
 
-// Windows opens COM10 and above by the names of their devices alone.
+// Windows opens COM10 and above by the names of their devices alone, which have no colon.
 constexpr std::size_t most_port_digits = 3;
 constexpr std::size_t device_name_size = std::size(L"\\\\.\\COM") + most_port_digits;
 
-bool is_port_above_9(const wchar_t* name) {
+// The length of the name of a port above 9 without its colon, 0 for another name.
+int length_of_port_above_9(const wchar_t* name) {
     if (!name || (_wcsnicmp(name, L"COM", 3) != 0 && _wcsnicmp(name, L"LPT", 3) != 0))
-        return false;
+        return 0;
     const std::size_t digits = std::wcsspn(name + 3, L"0123456789");
-    return digits > 1 && digits <= most_port_digits && name[3 + digits] == L'\0';
+    const wchar_t* const rest = name + 3 + digits;
+    const bool is_one =
+        digits > 1 && digits <= most_port_digits && std::wcscmp(rest, *rest == L':' ? L":" : L"") == 0;
+    return is_one ? static_cast<int>(3 + digits) : 0;
 }
 }  // namespace
 
@@ -101,8 +105,8 @@ HANDLE PX_Win32_Platform::CreateFileW(const wchar_t* name, DWORD access, DWORD s
                                       SECURITY_ATTRIBUTES* security, DWORD disposition, DWORD attributes,
                                       HANDLE file_template) {
     wchar_t device[device_name_size];
-    if (disposition == OPEN_EXISTING && is_port_above_9(name)) {
-        std::swprintf(device, device_name_size, L"\\\\.\\%ls", name);
+    if (const int length = disposition == OPEN_EXISTING ? length_of_port_above_9(name) : 0) {
+        std::swprintf(device, device_name_size, L"\\\\.\\%.*ls", length, name);
         name = device;
     }
     return ::CreateFileW(name, access, share, security, disposition, attributes, file_template);

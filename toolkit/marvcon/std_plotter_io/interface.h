@@ -54,8 +54,8 @@ public:
     // Empties the buffer, asking the user as long as bytes are left. False when a step of closing failed; the
     // channel is closed all the same. True when it was not open.
     virtual bool close() = 0;
-    // The number of bytes: 0 when not open, -1 after an Abort and for a failure. One call gets or takes no more
-    // than a long can tell, 0x7FFFFFFF bytes on Windows.
+    // The number of bytes: 0 when not open, -1 after an Abort and for a failure. One call gets or takes no
+    // more than a long can tell, 0x7FFFFFFF bytes on Windows.
     virtual long read(char* buffer, unsigned long size) = 0;
     // The number of bytes that were taken: 0 when not open, -1 after an Abort.
     virtual long write(const char* bytes, unsigned long size) = 0;

@@ -6,8 +6,8 @@
 #include "toolkit/marvcon/std_plotter_io/channel.h"
 
 // The loop that both routes write by. `write_some(bytes, size, written)` is the system's call; when it fails
-// or takes nothing, `ask(failed)` gives the user's answer. The result is the number of bytes taken, of no more
-// than it can tell, -1 after an Abort.
+// or takes nothing, `ask(failed)` gives the user's answer. The result is the number of bytes taken, of no
+// more than it can tell, -1 after an Abort.
 template <class Write_Some, class Ask>
 long PX_Std_Plotter_IO::send_all(const char* bytes, unsigned long size, Write_Some write_some, Ask ask) {
     size = std::min(size, static_cast<unsigned long>(std::numeric_limits<long>::max()));

@@ -34,7 +34,7 @@ MAKERS = {("std_sys_io_caps", "std_io_cfg"), ("std_io_cfg", "std_sys_io_caps")}
 CONTRACTS = {"interface.h", "catalogue_interface.h", "factory_interface.h"}
 WIN_TYPES = "toolkit/platform/win_types.h"
 PUBLIC_FACE = "toolkit/marvcon/marvcon.h"
-# The add-on, which examples see too.
+# The add-on above the toolkit, which sees its public face; examples see both.
 REPORT_FACE = "toolkit/report.h"
 # A host names the ports and the print server of its machine; a driver does not.
 MACHINE, HOST = "toolkit/platform/posix/posix_platform.h", "examples/plot_host"
@@ -245,6 +245,9 @@ SAMPLES = {
          "toolkit/marvcon/std_plotter_def/factory_interface.h": include("marvcon/std_io_cfg/baud.h"),
          "toolkit/marvcon/std_plotter_def/class_factory.cpp": include("marvcon/std_io_cfg/validator.h"),
          "toolkit/marvcon/marvcon.h": include("marvcon/std_io_cfg.h"),
+         REPORT_FACE: include("report/check.h"),
+         "toolkit/report/check.cpp": include("marvcon/marvcon.h"),
+         "examples/driver/main.cpp": include("report.h"),
          "toolkit/platform/posix/ports.cpp": "#ifdef __linux__\n" + include("platform/posix/ports.h"),
          WIN_TYPES: "#ifdef _WIN32\n#include <windows.h>\n#endif\n",
          "toolkit/resources/mvnres11.rc": '#include "error_texts.inc"\n',
@@ -255,6 +258,7 @@ SAMPLES = {
     "platform includes up": ({"toolkit/platform/a.h": include("core/flags.h")}, [(1, "up")]),
     "core includes up": ({"toolkit/core/a.h": include("marvcon/std_io_cfg/interface.h")}, [(1, "up")]),
     "core knows a back end": ({"toolkit/core/a.cpp": include("platform/posix/a.h")}, [(1, "nobody's")]),
+    "the toolkit knows a report": ({IO + "a.cpp": include("report/check.h")}, [(1, "up")]),
     "a back end knows another": ({"toolkit/platform/posix/a.cpp": include("platform/scripted/a.h")},
                                  [(1, "nobody's")]),
     "the machine knows its back end": ({"toolkit/platform/a.cpp": include("platform/win32/a.h")},
@@ -287,7 +291,7 @@ SAMPLES = {
     "an umbrella over two": ({"toolkit/marvcon/std_io_cfg.h": include("marvcon/std_phys_pen_cfg/pen.h")},
                              [(1, "own name")]),
     "an example behind the face": ({"examples/a.cpp": include("marvcon/std_io_cfg/validator.h")},
-                                   [(1, "public face")]),
+                                   [(1, "public faces")]),
     "an example at the platform": ({"examples/drivers/a.h": include("platform/posix/posix_platform.h"),
                                     HOST + "/a.h": include("platform/posix/posix_platform.h")},
                                    [(1, "public face")]),

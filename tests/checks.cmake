@@ -31,7 +31,7 @@ string(REPLACE "\n" ";" samples "${samples}")
 while(samples)
     list(POP_FRONT samples page name)
     add_executable(sample_${name} ${PROJECT_BINARY_DIR}/samples/${name}.cpp)
-    target_link_libraries(sample_${name} PRIVATE marvcon marvcon_scripted_platform marvcon_compile_options)
+    target_link_libraries(sample_${name} PRIVATE marvcon_report marvcon_scripted_platform marvcon_compile_options)
     marvcon_check(check.sample.${name} ${Python3_EXECUTABLE} ${CMAKE_CURRENT_LIST_DIR}/samples/samples.py run
                   ${page} ${name} $<TARGET_FILE:sample_${name}>)
 endwhile()

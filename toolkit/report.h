@@ -2,6 +2,7 @@
 
 // The add-on of the toolkit for what hosts and driver authors tell about a device and a choice.
 #include "toolkit/report/change_report.h"
+#include "toolkit/report/device_check.h"
 #include "toolkit/report/dry_run.h"
 #include "toolkit/report/item_value.h"
 #include "toolkit/report/snapshot.h"

@@ -3,9 +3,11 @@
 #include <filesystem>
 #include <functional>
 #include <string_view>
+#include <vector>
 
 #include "examples/common/drawing.h"
 #include "toolkit/marvcon/marvcon.h"
+#include "toolkit/report.h"
 
 // What the host is told while it plots; `done` goes up to `whole`. False stops the plot.
 using Plot_Progress = std::function<bool(std::size_t done, std::size_t whole)>;
@@ -55,6 +57,11 @@ public:
     // be used.
     virtual PX_Smart_Pointer<PX_Plotter_Definition> open(
         const std::filesystem::path& device, PX_Smart_Pointer<PX_Error_Handler> handler) const = 0;
+
+    // What is wrong with a device, but for what validators of the driver's own make good.
+    virtual std::vector<PX_Device_Finding> check(const PX_Plotter_Definition& device) const {
+        return px_check_device(device);
+    }
 
     // Sends the drawing to where the device's configuration says, between the init and term strings of the
     // configuration; `options` tell how it is rendered. Failures are asked and told through the handler; what

@@ -33,6 +33,7 @@ struct Arguments {
     bool round_dots = false;
     float tessellation = 1;
     std::vector<Pick_List> lists;
+    bool check = false;  // the device, and nothing else
     PX_Validation_Strategy::Enum strategy = PX_Validation_Strategy::Use_Nearest;
     PX_Validation_Policy::Enum policy = PX_Validation_Policy::Validate_Conditional;
     bool fixed_settables = false;

@@ -164,6 +164,12 @@ Exit_Code plot(const Arguments& arguments, const Drawing& drawing, const Session
                      session);
 }
 
+Exit_Code check(const Driver& driver, const PX_Plotter_Definition& device, std::ostream& out) {
+    const auto findings = driver.check(device);
+    px_print_findings(out, findings);
+    return findings.empty() ? Done : Device_At_Fault;
+}
+
 }  // namespace
 
 Exit_Code run(int count, const char* const* words, const Find_Driver& find_driver, std::ostream& out,
@@ -183,7 +189,10 @@ Exit_Code run(int count, const char* const* words, const Find_Driver& find_drive
                 drawing = read_drawing(arguments->drawing);
             const Driver& driver = find_driver(arguments->device);
             const auto device = driver.open(arguments->device, handler.get());
-            reconcile(*arguments, *device, out);
+            if (arguments->check)
+                code = check(driver, *device, out);
+            else
+                reconcile(*arguments, *device, out);
             if (drawing && !arguments->dry_run)
                 code = plot(*arguments, *drawing, {driver, *device, platform, handler, out, err, user});
         }

@@ -22,6 +22,7 @@ struct User {
 enum Exit_Code : int {
     Done = 0,
     Toolkit_Failed = 1,
+    Device_At_Fault = 1,    // the check has found something
     Bad_Input = 2,          // with exactly one line on `err`
     Not_Sent = 3,           // the plot was aborted or could not be sent
     Other_Destination = 4,  // the plot could not go where it was to, and was not sent

@@ -56,7 +56,9 @@ TEST(Arguments, WhatMakesNoSenseIsAnErrorAndHelpIsNone) {
     for (const std::vector<const char*>& words : {std::vector<const char*>{},
                                                   {"--device", "d", "--strategy", "keep"},
                                                   {"--device", "d", "--policy", "nearest"},
-                                                  {"--device", "d", "--fixed"}})
+                                                  {"--device", "d", "--fixed"},
+                                                  {"--device", "d", "--check", "--save", "s"},
+                                                  {"--device", "d", "--check", "--strategy", "default"}})
         EXPECT_THROW(parse(words, out), std::runtime_error) << words.size();
     EXPECT_EQ(out.str(), "");
     EXPECT_FALSE(parse({"--help"}, out));

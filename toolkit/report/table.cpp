@@ -1,11 +1,11 @@
 #include "toolkit/report/table.h"
 
-#include <algorithm>
 #include <array>
 #include <sstream>
 #include <utility>
 #include <vector>
 
+#include "toolkit/report/columns.h"
 #include "toolkit/report/text.h"
 #include "toolkit/report/words.h"
 
@@ -52,25 +52,6 @@ void add_row(std::vector<Line>& lines, const PX_Datum_Change& row) {
     add_lines(lines, {}, "now ", row.after->shown);
 }
 
-// In characters: the bytes that begin one.
-std::size_t width_of(const std::string& utf8) {
-    return static_cast<std::size_t>(std::ranges::count_if(utf8, [](char c) { return (c & 0xC0) != 0x80; }));
-}
-
-// The last column may be as wide as it likes.
-void print_lines(std::ostream& out, const std::vector<Line>& lines) {
-    std::array<std::size_t, std::tuple_size_v<Line>> widths{};
-    for (const Line& line : lines) {
-        for (std::size_t column = 0; column < line.size(); ++column)
-            widths[column] = std::max(widths[column], width_of(line[column]));
-    }
-    for (const Line& line : lines) {
-        for (std::size_t column = 0; column + 1 < line.size(); ++column)
-            out << line[column] << std::string(widths[column] + 2 - width_of(line[column]), ' ');
-        out << line.back() << '\n';
-    }
-}
-
 }  // namespace
 
 std::string px_word_of_outcome(const PX_Datum_Change& row) {
@@ -85,7 +66,7 @@ void px_print_changes(std::ostream& out, const PX_Change_Report& report) {
         add_row(lines, row);
         data += row.after.has_value();
     }
-    print_lines(out, lines);
+    px_print_columns(out, lines);
     out << '\n' << report.get_changed() << " of " << data << " data changed";
     if (report.get_silent() > 0)
         out << ", " << report.get_silent() << " of them without a change bit";
@@ -102,4 +83,19 @@ void px_print_changes(std::ostream& out, const PX_Change_Report& report) {
     out << "The change words name these domains:\n"
         << "    configuration: " << px_domain_words(report.get_config_changed()) << '\n'
         << "    capabilities:  " << px_domain_words(report.get_caps_changed()) << '\n';
+}
+
+void px_print_findings(std::ostream& out, const std::vector<PX_Device_Finding>& findings) {
+    if (findings.empty()) {
+        out << "Nothing is wrong with the device.\n";
+        return;
+    }
+    std::vector<std::array<std::string, 4>> lines = {{"Domain", "Object", "Fault", "What comes of it"}};
+    // A name may hold what a terminal would obey.
+    for (const PX_Device_Finding& finding : findings)
+        lines.push_back({px_on_one_line(px_domain_text(finding)), px_on_one_line(finding.object),
+                         px_on_one_line(px_fault_text(finding.fault)),
+                         px_on_one_line(px_effect_text(finding))});
+    px_print_columns(out, lines);
+    out << '\n' << findings.size() << (findings.size() == 1 ? " finding.\n" : " findings.\n");
 }

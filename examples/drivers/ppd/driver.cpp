@@ -101,6 +101,14 @@ PX_Smart_Pointer<PX_Plotter_Definition> Ppd_Driver::open(const std::filesystem::
     return open_ppd_device(device, std::move(handler));
 }
 
+std::vector<PX_Device_Finding> Ppd_Driver::check(const PX_Plotter_Definition& device) const {
+    std::vector<PX_Device_Finding> findings = Driver::check(device);
+    std::erase_if(findings, [](const PX_Device_Finding& finding) {
+        return finding.fault == PX_Device_Fault::Memory_Default;
+    });
+    return findings;
+}
+
 void Ppd_Driver::set_up_job(const PX_Plotter_Definition& device, Plot_Output& output) const {
     output.write(ppd_settings_code(ppd_file_of(device), device, Ppd_Section::Job_Control));
 }

@@ -5,11 +5,13 @@
 #include <map>
 #include <sstream>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "examples/common/made.h"
 #include "examples/common/text.h"
 #include "examples/drivers/ppd/definition.h"
+#include "examples/drivers/ppd/driver.h"
 #include "examples/plot_host/configuration.h"
 #include "examples/plot_host/host_error_handler.h"
 #include "examples/plot_host/saved_choice.h"
@@ -116,17 +118,17 @@ public:
         m_handler = made<PX_Error_Handler>(new plot_host::Host_Error_Handler(m_silenced), L"handler");
     }
 
+    // Only the device check.
+    void check(const fs::path& file) {
+        if (const Device device = open(file))
+            check_device(*device);
+    }
+
     void visit(const fs::path& file) {
-        m_where = file.filename().string();
-        ++m_files;
-        Device device;
-        try {
-            device = open_ppd_device(file, m_handler);
-        } catch (const Ppd_Error& failure) {
-            const std::string why = failure.what();
-            m_rejected.count(why.substr(std::min(why.find("' "), why.size() - 2) + 2), m_where);
+        const Device device = open(file);
+        if (!device)
             return;
-        }
+        check_device(*device);
         check_finishing(*device->get_plotter_capabilities()->get_media_capabilities());
         check_own_defaults(*device);
         check_own_settings(*device);
@@ -147,12 +149,14 @@ public:
                   << "| values drawn for a device's own settings | " << m_drawn << " |\n"
                   << "| of them not the device's, changed by the run | " << m_drawn_wrong << " |\n"
                   << "| values of a choice that its next device has a setting for | " << m_known << " |\n"
-                  << "| values that it has none for, dropped | " << m_dropped << " |\n";
+                  << "| values that it has none for, dropped | " << m_dropped << " |\n"
+                  << "| findings of the device check that the driver answers for | " << m_answered << " |\n";
         m_repaired.print("Changed by the first run");
         m_rules.print("Repaired again by a second run, by a rule of the toolkit; the data stay as they are");
         m_rejected.print("Descriptions that cannot be read");
+        m_findings.print("Found by the device check");
         m_faults.print("Faults");
-        return m_faults.is_empty();
+        return m_faults.is_empty() && m_findings.is_empty();
     }
 
 private:
@@ -161,6 +165,30 @@ private:
         std::string text;
         PX_Smart_Pointer<Custom_Items> items;
     };
+
+    // Null for a description that cannot be read.
+    Device open(const fs::path& file) {
+        m_where = file.filename().string();
+        ++m_files;
+        try {
+            return open_ppd_device(file, m_handler);
+        } catch (const Ppd_Error& failure) {
+            const std::string why = failure.what();
+            m_rejected.count(why.substr(std::min(why.find("' "), why.size() - 2) + 2), m_where);
+            return nullptr;
+        }
+    }
+
+    void check_device(const PX_Plotter_Definition& device) {
+        const auto findings = Ppd_Driver().check(device);
+        m_answered += px_check_device(device).size() - findings.size();
+        for (const PX_Device_Finding& finding : findings) {
+            const std::wstring kind = px_domain_text(finding) +
+                                      (L": " + std::wstring(px_fault_text(finding.fault))) + L"; " +
+                                      px_effect_text(finding);
+            m_findings.count(text::to_utf8(kind), m_where + ": " + text::to_utf8(finding.object));
+        }
+    }
 
     void check_finishing(const PX_Media_Capabilities& media) {
         for (const auto& bin : *media.get_media_destination_list()) {
@@ -386,14 +414,16 @@ private:
     long m_runs = 0;
     long m_drawn = 0, m_drawn_wrong = 0;
     long m_known = 0, m_dropped = 0;
-    Tally m_repaired, m_rules, m_rejected, m_faults;
+    std::size_t m_answered = 0;
+    Tally m_repaired, m_rules, m_rejected, m_findings, m_faults;
 };
 
 }  // namespace
 
 int main(int count, char** words) {
-    if (count != 2) {
-        std::cerr << "usage: ppd_sweep FOLDER\n";
+    const bool check_only = count == 3 && words[2] == std::string_view("--check");
+    if (count != 2 && !check_only) {
+        std::cerr << "usage: ppd_sweep FOLDER [--check]\n";
         return 2;
     }
     const fs::path folder = words[1];
@@ -410,7 +440,7 @@ int main(int count, char** words) {
         if (at % 100 == 0)
             std::cerr << at << " of " << files.size() << " descriptions, now "
                       << files[at].filename().string() << '\n';
-        sweep.visit(files[at]);
+        check_only ? sweep.check(files[at]) : sweep.visit(files[at]);
     }
     const bool sound = sweep.report();
     if (files.empty())

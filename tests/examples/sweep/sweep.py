@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Lets ppd_sweep run over the printer descriptions of the installed packages.
 
-usage: sweep.py PROGRAM [--sample N]
+usage: sweep.py PROGRAM [--sample N] [--check]
 
 Exit code 77 where there are none.
 """
@@ -51,6 +51,7 @@ def main():
     parser = argparse.ArgumentParser()
     parser.add_argument("program")
     parser.add_argument("--sample", type=int, metavar="N", help="N evenly drawn descriptions")
+    parser.add_argument("--check", action="store_true", help="only the device check")
     arguments = parser.parse_args()
     if not pathlib.Path(arguments.program).is_file():
         parser.error(f"there is no program '{arguments.program}'; the target ppd_sweep builds it")
@@ -67,7 +68,8 @@ def main():
             leaf = "_".join(pathlib.PurePath(name).parts[-2:])
             pathlib.Path(folder, f"{at:05}_{leaf}").write_bytes(content)
         del found
-        return subprocess.run([arguments.program, folder], check=False).returncode
+        mode = ["--check"] if arguments.check else []
+        return subprocess.run([arguments.program, folder, *mode], check=False).returncode
 
 
 if __name__ == "__main__":

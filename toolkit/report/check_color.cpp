@@ -1,0 +1,220 @@
+#include "toolkit/report/domain_checks.h"
+
+// Resolution, colour and memory: each is looked for in the colour mode that is chosen.
+
+using Ability = PX_ResColorMem_Ability_Flags;
+using Datum = PX_ResColorMem_Config_Flags;
+using Fault = PX_Device_Fault;
+
+namespace {
+
+constexpr unsigned int nothing_there = PX_Code::Null_Argument;
+
+constexpr PX_Gate<Ability> gates[] = {{Ability::RCM_Res_Color_Mem, L"colour mode"},
+                                      {Ability::RCM_Resolution, L"resolution"},
+                                      {Ability::RCM_HardSoftNo_Dithering, L"dithering"},
+                                      {Ability::RCM_Lines_Overwrite, L"lines overwrite"},
+                                      {Ability::RCM_Color_Vs_Mono, L"colour or monochrome"},
+                                      {Ability::RCM_Rast_Color_Vs_Res_Pref, L"raster preference"},
+                                      {Ability::RCM_Installed_Memory, L"installed memory"},
+                                      {Ability::RCM_ISM_Max_Mem, L"first limit of memory"},
+                                      {Ability::RCM_OLE_Max_Mem, L"second limit of memory"},
+                                      {Ability::RCM_Icm_Method, L"colour management method"},
+                                      {Ability::RCM_Icm_Intent, L"colour management intent"},
+                                      {Ability::RCM_Dm_Color, L"device-mode colour"}};
+
+constexpr long bit_of(Datum::Enum datum) {
+    return 1L << datum;
+}
+
+class Color_Check {
+public:
+    Color_Check(const PX_ResColorMem_Capabilities& device, const PX_Findings& found)
+        : m_device(device),
+          m_found(found),
+          m_modes(device.get_res_color_mem_list()),
+          m_mode_is_sure(of(Ability::RCM_Res_Color_Mem).is_listed()),
+          // From the conditional ability of the mode on; the mode itself is sure from the listed one on.
+          m_resolution_has_default(device.get_one_ability(Ability::RCM_Res_Color_Mem) >=
+                                       PX_Ability_Value::Ability_Conditional &&
+                                   of(Ability::RCM_Resolution).is_listed()),
+          m_resolution_is_validated(of(Ability::RCM_Resolution).is_validated()),
+          m_dithers(of(Ability::RCM_HardSoftNo_Dithering).is_validated() &&
+                    of(Ability::RCM_Res_Color_Mem_List).is_above_none() &&
+                    of(Ability::RCM_Resolution_List).is_above_none()),
+          m_counts_memory(of(Ability::RCM_Installed_Memory).is_validated() &&
+                          of(Ability::RCM_Mem_Area).is_required()) {}
+
+    void run() const {
+        px_check_gates(m_device, gates, m_found);
+        px_check_names(
+            m_modes, L"", L"colour mode", m_found,
+            px_bits_if(of(Ability::RCM_Res_Color_Mem).is_validated(), bit_of(Datum::RCM_Cfg_Res_Color_Mem)));
+        px_check_names(m_device.get_mem_area_list(), L"", L"memory area", m_found);
+        px_check_names(m_device.get_dithering_list(), L"", L"dithering method", m_found);
+        check_modes();
+        check_order();
+        px_for_each_named(m_modes, [&](const PX_ResColorMem& mode) {
+            if (!m_mode_is_sure || !px_is_withdrawn(mode))
+                check_resolutions(mode);
+        });
+    }
+
+private:
+    PX_Ability_Of of(Ability::Enum flag) const { return m_device.get_one_ability(flag); }
+
+    void check_modes() const {
+        const bool is_validated = of(Ability::RCM_Res_Color_Mem).is_validated();
+        if (is_validated && !m_modes)
+            m_found.throws(L"colour modes", Fault::List_Missing, nothing_there, L"res_color_mem_list");
+        else if (is_validated && !px_has_one_there(m_modes, has_numbers))
+            m_found.throws(L"colour modes", Fault::Nothing_To_Take, nothing_there, L"rcm");
+        if (is_validated)
+            px_for_each_there(m_modes, [&](const PX_ResColorMem& mode) {
+                if (!has_numbers(mode))
+                    m_found.passes_over(px_named(L"colour mode", mode), Fault::No_Measure);
+                if (mode.get_color_system() == PX_Color_System::Color_System_Undefined)
+                    m_found.repeats(px_named(L"colour mode", mode), Fault::Color_System_Undefined,
+                                    bit_of(Datum::RCM_Cfg_Res_Color_Mem));
+            });
+        if (is_validated && !m_mode_is_sure)
+            m_found.repeats(L"colour mode", Fault::Default_Not_Written, bit_of(Datum::RCM_Cfg_Res_Color_Mem));
+        if (!m_mode_is_sure)
+            return;
+        const wchar_t* const name = m_device.get_default_res_color_mem();
+        const auto preset = m_device.get_res_color_mem(name);
+        if (!preset)
+            m_found.throws(px_named(L"default colour mode", name), Fault::Names_Nothing, nothing_there,
+                           L"rcm");
+        else if (!px_is_there(preset))
+            m_found.throws(px_named(L"default colour mode", name), Fault::Names_Withdrawn, 401);
+    }
+
+    // The searches end at the greatest number of 32 bits.
+    static bool has_numbers(const PX_ResColorMem& mode) {
+        return px_is_measure(static_cast<float>(mode.get_num_colors())) &&
+               px_is_measure(static_cast<float>(mode.get_color_depth())) &&
+               px_is_measure(static_cast<float>(mode.get_num_undithered_colors()));
+    }
+
+    // What needs a mode or a resolution, where no default makes them good.
+    void check_order() const {
+        if (m_resolution_has_default && !m_mode_is_sure)
+            m_found.throws(L"default resolution", Fault::Not_Ensured, nothing_there, L"rcm");
+        if (m_resolution_is_validated && !m_resolution_has_default)
+            m_found.repeats(L"resolution", Fault::Default_Not_Written, bit_of(Datum::RCM_Cfg_Resolution));
+        const auto require = [&](bool is_needed, bool is_sure, const wchar_t* object, const wchar_t* detail) {
+            if (is_needed && !is_sure)
+                m_found.throws(object, Fault::Not_Ensured, nothing_there, detail);
+        };
+        require(m_resolution_is_validated, m_mode_is_sure, L"resolution", L"res_color_mem_list");
+        for (const auto& [is_needed, object] :
+             {std::pair(m_dithers, L"dithering"), {m_counts_memory, L"installed memory"}}) {
+            require(is_needed, m_mode_is_sure, object, L"res_color_mem_list");
+            require(is_needed, m_resolution_has_default, object, L"resolution");
+        }
+    }
+
+    void check_resolutions(const PX_ResColorMem& mode) const {
+        const std::wstring way = px_named(L"colour mode", mode);
+        const auto resolutions = mode.get_resolution_list();
+        px_check_names(resolutions, way, L"resolution", m_found,
+                       px_bits_if(m_resolution_is_validated, bit_of(Datum::RCM_Cfg_Resolution)));
+        if (m_resolution_is_validated && !px_has_one_there(resolutions, has_measures))
+            m_found.throws(px_in(way, L"resolutions"), Fault::Nothing_To_Take, nothing_there, L"resolution");
+        px_for_each_named(resolutions, [&](const PX_Resolution& resolution) {
+            if (!m_resolution_has_default || !px_is_withdrawn(resolution))
+                check_resolution(resolution, px_in(way, px_named(L"resolution", resolution)));
+        });
+        if (!m_resolution_has_default)
+            return;
+        const wchar_t* const name = mode.get_default_resolution();
+        const auto preset = mode.get_resolution(name);
+        const std::wstring object = px_in(way, px_named(L"default resolution", name));
+        if (!preset)
+            m_found.throws(object, Fault::Names_Nothing, nothing_there, L"resolution");
+        else if (!px_is_there(preset))
+            m_found.throws(object, Fault::Names_Withdrawn, 403);
+        else if (const auto method = dithering_of(*preset); needs_method() && !px_is_there(method))
+            m_found.throws(px_in(object, px_named(L"dithering", preset->get_dithering_name())),
+                           px_fault_of_name(method), 403);
+    }
+
+    static bool has_measures(const PX_Resolution& resolution) {
+        return px_is_measure(px_value(resolution.get_phys_resolution_xy())) &&
+               px_is_measure(px_value(resolution.get_addr_resolution_xy())) &&
+               px_is_measure(px_value(resolution.get_effective_resolution_xy()));
+    }
+    static bool has_nan(const PX_Resolution& resolution) {
+        return px_is_nan(px_value(resolution.get_phys_resolution_xy())) ||
+               px_is_nan(px_value(resolution.get_addr_resolution_xy())) ||
+               px_is_nan(px_value(resolution.get_effective_resolution_xy()));
+    }
+
+    bool needs_method() const { return of(Ability::RCM_Dithering).is_required(); }
+    PX_Smart_Pointer<PX_Dithering_Method> dithering_of(const PX_Resolution& resolution) const {
+        return m_device.get_dithering(resolution.get_dithering_name());
+    }
+
+    void check_resolution(const PX_Resolution& resolution, const std::wstring& way) const {
+        px_check_measure(has_nan(resolution), has_measures(resolution), way, m_resolution_is_validated,
+                         L"resolution", m_found);
+        const auto method = dithering_of(resolution);
+        const std::wstring dithering = px_in(way, px_named(L"dithering", resolution.get_dithering_name()));
+        if (m_dithers && !method)
+            m_found.throws(dithering, Fault::Names_Nothing, nothing_there, L"dithering");
+        // The search asks for no method: the resolution is the nearest to itself.
+        if (m_resolution_is_validated && needs_method() && !px_is_there(method))
+            m_found.repeats(dithering, px_fault_of_name(method), bit_of(Datum::RCM_Cfg_Resolution));
+        if (!m_counts_memory)
+            return;
+        px_for_each_there(resolution.get_mem_area_name_list(), [&](const PX_Caps_Name_List_Object& name) {
+            if (!m_device.get_mem_area(name.get_canonical_name()))
+                m_found.passes_over(px_in(way, px_named(L"memory area", name)), Fault::Names_Nothing);
+        });
+        if (!takes_memory(resolution, 0))
+            m_found.repeats(way, Fault::Memory_Default, bit_of(Datum::RCM_Cfg_Installed_Memory));
+    }
+
+    // As a run counts: up to three names at a time, of which the memory of the third counts.
+    bool takes_memory(const PX_Resolution& resolution, long memory) const {
+        const auto names = resolution.get_mem_area_name_list();
+        if (!names)
+            return false;
+        auto place = names->begin();
+        const auto next = [&]() -> PX_Smart_Pointer<PX_Mem_Area> {
+            if (place == names->end())
+                return nullptr;
+            const auto& name = *place;
+            ++place;
+            return name ? m_device.get_mem_area(name->get_canonical_name()) : nullptr;
+        };
+        while (place != names->end()) {
+            if (!next() || !px_is_there(next()))
+                continue;
+            const auto counted = next();
+            if (px_is_there(counted) && counted->get_device_memory() == memory)
+                return true;
+        }
+        return false;
+    }
+
+    const PX_ResColorMem_Capabilities& m_device;
+    const PX_Findings& m_found;
+    PX_Smart_Pointer<PX_Named_Object_List<PX_ResColorMem>> m_modes;
+    bool m_mode_is_sure;
+    bool m_resolution_has_default;
+    bool m_resolution_is_validated;
+    bool m_dithers;
+    bool m_counts_memory;
+};
+
+}  // namespace
+
+void px_check_color(const PX_ResColorMem_Capabilities& device, const PX_Meta_Capabilities* identity,
+                    const PX_Findings& found) {
+    Color_Check(device, found).run();
+    // Its default depends on the path of the driver.
+    if (!identity && PX_Ability_Of(device.get_one_ability(Ability::RCM_ISM_Max_Mem)).is_above_none())
+        found.throws(L"identity", Fault::Object_Missing, nothing_there, L"meta_capabilities");
+}

@@ -225,7 +225,7 @@ private:
             byte = static_cast<char>(m_next++ % 251);
         if (!m_io->get_handle_ari_for_drv() && m_io->get_io_buffering())
             m_expected.may_drop();
-        const long told = m_io->write(bytes.data(), bytes.size());
+        const long told = m_io->write(bytes.data(), static_cast<unsigned long>(bytes.size()));
         require(m_is_open || told == 0, "nothing is written to what is not open");
         require(told != -1 || m_handler->has_aborted, "only an Abort gives -1");
         if (m_is_open)

@@ -50,8 +50,9 @@ public:
     // Mostly small, sometimes at an end of a type, sometimes anything.
     template <class Number = long>
     Number number() {
-        constexpr long ends[] = {-1,       -2,       INT_MAX,  INT_MIN,  LONG_MAX,
-                                 LONG_MIN, SHRT_MAX, SHRT_MIN, UINT_MAX, LONG_MAX - 1};
+        // Of 64 bits on every system, so that a kept case means the same.
+        constexpr std::int64_t ends[] = {-1,        -2,       INT_MAX,  INT_MIN,  INT64_MAX,
+                                         INT64_MIN, SHRT_MAX, SHRT_MIN, UINT_MAX, INT64_MAX - 1};
         const int kind = up_to(7);
         if (kind < 5)
             return static_cast<Number>(kind);
@@ -59,7 +60,7 @@ public:
             return static_cast<Number>(byte());
         if (kind == 6)
             return static_cast<Number>(one_of(ends));
-        unsigned long any = 0;
+        std::uint64_t any = 0;
         for (std::size_t at = 0; at < sizeof any; ++at)
             any = any << 8 | byte();
         return static_cast<Number>(any);

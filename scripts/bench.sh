@@ -14,7 +14,7 @@ case $#:$repetitions in
 esac
 
 need_packages g++ cmake ninja-build pkg-config python3 libbenchmark-dev libcups2-dev libcli11-dev \
-    nlohmann-json3-dev libpugixml-dev || exit 1
+    nlohmann-json3-dev librapidxml-dev || exit 1
 
 build=build/bench
 launcher=

@@ -37,7 +37,10 @@ PUBLIC_FACE = "toolkit/marvcon/marvcon.h"
 # The add-on above the toolkit, which sees its public face; examples see both.
 REPORT_FACE = "toolkit/report.h"
 # A host names the ports and the print server of its machine; a driver does not.
-MACHINE, HOST = "toolkit/platform/posix/posix_platform.h", "examples/plot_host"
+MACHINES = {
+    "toolkit/platform/posix/posix_platform.h": "examples/plot_host/posix",
+    "toolkit/platform/win32/win32_platform.h": "examples/plot_host/windows",
+}
 
 SUFFIXES = {".h", ".cpp", ".inc", ".rc"}
 MOST_LINES = 600
@@ -142,7 +145,7 @@ class Checker:
         if is_below(path, "examples"):
             if target in (PUBLIC_FACE, REPORT_FACE) or is_below(target, "toolkit/platform/scripted"):
                 return ""
-            if target == MACHINE and is_below(path, HOST):
+            if target in MACHINES and is_below(path, MACHINES[target]):
                 return ""
             return f"an example sees the public faces only: {PUBLIC_FACE}, {REPORT_FACE}"
         if is_below(path, "toolkit/resources"):
@@ -293,8 +296,12 @@ SAMPLES = {
     "an example behind the face": ({"examples/a.cpp": include("marvcon/std_io_cfg/validator.h")},
                                    [(1, "public faces")]),
     "an example at the platform": ({"examples/drivers/a.h": include("platform/posix/posix_platform.h"),
-                                    HOST + "/a.h": include("platform/posix/posix_platform.h")},
+                                    "examples/plot_host/posix/a.h": include("platform/posix/posix_platform.h")},
                                    [(1, "public face")]),
+    "an example at another machine": (
+        {"examples/plot_host/a.h": include("platform/posix/posix_platform.h"),
+         "examples/plot_host/windows/a.h": include("platform/posix/posix_platform.h")},
+        [(1, "public face"), (1, "public face")]),
     "a second door": ({"toolkit/platform/win32/a.h": "#  include <Windows.h>\n"}, [(1, "only door")]),
     "a sound add-on": (
         {REPORT_FACE: include("report/a.h"),

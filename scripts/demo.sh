@@ -53,7 +53,7 @@ run() {
     "$build/bin/plot_host" "$@"
 }
 
-need_packages cmake g++ libcli11-dev libcups2-dev ninja-build nlohmann-json3-dev libpugixml-dev
+need_packages cmake g++ libcli11-dev libcups2-dev ninja-build nlohmann-json3-dev librapidxml-dev
 echo "Building plot_host"
 mkdir -p "$work"
 if ! { cmake --preset release -B "$build" -DMARVCON_WARNINGS_AS_ERRORS=OFF -DBUILD_TESTING=OFF &&

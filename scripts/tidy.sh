@@ -5,7 +5,7 @@ set -eu
 cd "$(dirname "$0")/.."
 . scripts/packages.sh
 
-need_packages g++ cmake ninja-build libgtest-dev python3 libcups2-dev libcli11-dev nlohmann-json3-dev libpugixml-dev \
+need_packages g++ cmake ninja-build libgtest-dev python3 libcups2-dev libcli11-dev nlohmann-json3-dev librapidxml-dev \
     clang-tidy || exit 1
 cmake --preset dev >/dev/null
 exec run-clang-tidy -quiet -p build/dev -j "$(nproc)" "$PWD/(toolkit|examples)/"

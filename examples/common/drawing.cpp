@@ -11,7 +11,7 @@
 #include <iterator>
 #include <numbers>
 #include <optional>
-#include <pugixml.hpp>
+#include <rapidxml/rapidxml.hpp>
 #include <string>
 #include <string_view>
 #include <system_error>
@@ -76,6 +76,9 @@ private:
 };
 
 class Reader {
+    using Node = rapidxml::xml_node<>;
+    using Attribute = rapidxml::xml_attribute<>;
+
 public:
     explicit Reader(const std::filesystem::path& path) : m_path(path) {
         std::error_code ignored;
@@ -85,18 +88,27 @@ public:
         if (!file)
             fail("cannot be opened: " + std::generic_category().message(errno));
         m_text.assign(std::istreambuf_iterator<char>(file), {});
+        for (std::size_t at = 0; (at = m_text.find('\n', at)) != std::string::npos; ++at)
+            m_line_ends.push_back(at);
     }
 
     Drawing read() {
-        pugi::xml_document document;
-        const auto result = document.load_buffer(m_text.data(), m_text.size());
-        if (!result)
-            fail(line_at(result.offset) + "is broken: " + result.description());
-        const pugi::xml_node root = document.document_element();
-        if (std::string_view(root.name()) != "svg")
+        // To the parser it is the end.
+        if (const std::size_t zero = m_text.find('\0'); zero != std::string::npos)
+            fail(line_at(m_text.data() + zero) + "is broken: there is a byte of 0");
+        rapidxml::xml_document<> document;
+        try {
+            document.parse<rapidxml::parse_validate_closing_tags>(m_text.data());
+        } catch (const rapidxml::parse_error& failure) {
+            fail(line_at(failure.where<char>()) + "is broken: " + failure.what());
+        }
+        const Node* const root = document.first_node();
+        if (!root)
+            fail("is broken: it has no element");
+        if (std::string_view(root->name()) != "svg")
             fail("is no SVG drawing");
-        read_view_box(root);
-        read_children(root, stroke_of(root, {}));
+        read_view_box(*root);
+        read_children(*root, stroke_of(*root, {}));
         if (m_drawing.lines.empty())
             fail("has no line with a stroke");
         return std::move(m_drawing);
@@ -106,15 +118,21 @@ private:
     [[noreturn]] void fail(const std::string& why) const {
         throw Drawing_Error("the drawing '" + m_path.string() + "' " + why);
     }
-    [[noreturn]] void fail(const pugi::xml_node& node, const std::string& why) const {
-        fail(line_at(node.offset_debug()) + "has a '" + node.name() + "' " + why);
+    [[noreturn]] void fail(const Node& node, const std::string& why) const {
+        fail(line_at(node.name()) + "has a '" + node.name() + "' " + why);
     }
-    std::string line_at(std::ptrdiff_t offset) const {
-        const auto end = m_text.begin() + std::clamp<std::ptrdiff_t>(offset, 0, std::ssize(m_text));
-        return "in line " + std::to_string(1 + std::count(m_text.begin(), end, '\n')) + " ";
+    std::string line_at(const char* place) const {
+        const auto end =
+            std::ranges::lower_bound(m_line_ends, static_cast<std::size_t>(place - m_text.data()));
+        return "in line " + std::to_string(1 + (end - m_line_ends.begin())) + " ";
+    }
+    // Empty where there is none.
+    static std::string_view attribute(const Node& node, const char* name) {
+        const Attribute* const found = node.first_attribute(name);
+        return found ? found->value() : "";
     }
 
-    void read_view_box(const pugi::xml_node& root) {
+    void read_view_box(const Node& root) {
         const std::vector<double> box = numbers(root, "viewBox");
         if (box.size() != 4 || !(box[2] > 0) || !(box[3] > 0))
             fail(root, "without a viewBox of a width and a height");
@@ -124,10 +142,12 @@ private:
         m_drawing.height = box[3];
     }
 
-    void read_children(const pugi::xml_node& parent, const Stroke& inherited) {
-        for (const pugi::xml_node& node : parent.children()) {
+    void read_children(const Node& parent, const Stroke& inherited) {
+        for (const Node* child = parent.first_node(); child; child = child->next_sibling()) {
+            const Node& node = *child;
             const std::string_view name = node.name();
-            if (node.type() != pugi::node_element || name == "title" || name == "desc" || name == "metadata")
+            if (node.type() != rapidxml::node_element || name == "title" || name == "desc" ||
+                name == "metadata")
                 continue;
             if (name == "g") {
                 check_attributes(node, {});
@@ -158,13 +178,13 @@ private:
     }
 
     // What would change the look of the drawing and is passed over would not be noticed.
-    void check_attributes(const pugi::xml_node& node, std::initializer_list<std::string_view> own) const {
+    void check_attributes(const Node& node, std::initializer_list<std::string_view> own) const {
         constexpr std::string_view common[] = {
             "id", "stroke", "stroke-width", "stroke-dasharray", "stroke-linecap", "stroke-linejoin"};
-        for (const pugi::xml_attribute& attribute : node.attributes()) {
-            const std::string_view name = attribute.name();
+        for (const Attribute* one = node.first_attribute(); one; one = one->next_attribute()) {
+            const std::string_view name = one->name();
             if (name == "fill") {
-                if (std::string_view(attribute.value()) != "none")
+                if (std::string_view(one->value()) != "none")
                     fail(node, "that is filled, which is not understood");
             } else if (std::ranges::find(common, name) == std::end(common) &&
                        std::ranges::find(own, name) == own.end()) {
@@ -173,23 +193,23 @@ private:
         }
     }
 
-    Stroke stroke_of(const pugi::xml_node& node, Stroke stroke) const {
-        if (const auto colour = node.attribute("stroke"))
-            stroke.colour = colour_of(node, colour.value());
-        if (node.attribute("stroke-width")) {
+    Stroke stroke_of(const Node& node, Stroke stroke) const {
+        if (node.first_attribute("stroke"))
+            stroke.colour = colour_of(node, attribute(node, "stroke"));
+        if (node.first_attribute("stroke-width")) {
             stroke.width = coordinate(node, "stroke-width");
             if (stroke.width < 0)
                 fail(node, "whose stroke-width is below 0");
         }
-        if (node.attribute("stroke-dasharray"))
+        if (node.first_attribute("stroke-dasharray"))
             stroke.dashes = dashes_of(node);
         return stroke;
     }
 
     // An odd number of them is taken twice; zeros alone are a solid line.
-    std::vector<double> dashes_of(const pugi::xml_node& node) const {
+    std::vector<double> dashes_of(const Node& node) const {
         constexpr const char* name = "stroke-dasharray";
-        if (std::string_view(node.attribute(name).value()) == "none")
+        if (attribute(node, name) == "none")
             return {};
         std::vector<double> dashes = numbers(node, name);
         if (std::ranges::any_of(dashes, [](double length) { return length < 0; }))
@@ -203,7 +223,7 @@ private:
         return dashes;
     }
 
-    std::optional<Drawing_Colour> colour_of(const pugi::xml_node& node, std::string_view word) const {
+    std::optional<Drawing_Colour> colour_of(const Node& node, std::string_view word) const {
         if (word == "none")
             return std::nullopt;
         const auto named = std::ranges::find(named_colours, word, &Named_Colour::name);
@@ -223,16 +243,16 @@ private:
         fail(node, "with the stroke '" + std::string(word) + "', which is not understood");
     }
 
-    double coordinate(const pugi::xml_node& node, const char* name) const {
+    double coordinate(const Node& node, const char* name) const {
         const std::vector<double> values = numbers(node, name);
         if (values.size() > 1)
             fail(node, std::string("whose ") + name + " is more than a number");
         return values.empty() ? 0 : values.front();
     }
 
-    std::vector<double> numbers(const pugi::xml_node& node, const char* name) const {
+    std::vector<double> numbers(const Node& node, const char* name) const {
         std::vector<double> values;
-        for (Words words(node.attribute(name).value()); !words.is_at_end();) {
+        for (Words words(attribute(node, name)); !words.is_at_end();) {
             const auto value = words.number();
             if (!value)
                 fail(node, std::string("whose ") + name + " is not made of numbers");
@@ -242,7 +262,7 @@ private:
     }
 
     // One without a radius is not drawn.
-    void read_circle(const pugi::xml_node& node, const Stroke& inherited) {
+    void read_circle(const Node& node, const Stroke& inherited) {
         const double radius = coordinate(node, "r");
         if (radius < 0)
             fail(node, "whose r is below 0");
@@ -251,14 +271,14 @@ private:
     }
 
     // M, L and Z; a number pair more than a letter takes is a line to there.
-    void read_path(const pugi::xml_node& node, const Stroke& inherited) {
+    void read_path(const Node& node, const Stroke& inherited) {
         std::vector<double> points;
         const auto end_line = [&] {
             if (points.size() >= 4)
                 add(node, inherited, points);
             points.clear();
         };
-        for (Words words(node.attribute("d").value()); !words.is_at_end();) {
+        for (Words words(attribute(node, "d")); !words.is_at_end();) {
             if (words.is_at_letter()) {
                 const char letter = words.letter();
                 if (letter == 'M') {
@@ -286,7 +306,7 @@ private:
         end_line();
     }
 
-    void add(const pugi::xml_node& node, const Stroke& inherited, const std::vector<double>& numbers,
+    void add(const Node& node, const Stroke& inherited, const std::vector<double>& numbers,
              double radius = 0) {
         const Stroke stroke = stroke_of(node, inherited);
         if (!stroke.colour)
@@ -298,7 +318,8 @@ private:
     }
 
     const std::filesystem::path& m_path;
-    std::string m_text;
+    std::string m_text;  // changed in place when it is parsed
+    std::vector<std::size_t> m_line_ends;
     Drawing m_drawing{};
     double m_left = 0;
     double m_bottom = 0;

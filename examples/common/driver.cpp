@@ -42,7 +42,7 @@ Plot_Output::Plot_Output(PX_Plotter_IO& channel, const Plot_Progress& progress, 
 void Plot_Output::write(std::string_view bytes) {
     while (!bytes.empty()) {
         const auto part = bytes.substr(0, static_cast<std::size_t>(m_channel.get_buffer_size()));
-        const long taken = m_channel.write(part.data(), part.size());
+        const long taken = m_channel.write(part.data(), static_cast<unsigned long>(part.size()));
         if (taken <= 0)
             throw Plot_Stopped();
         m_count += static_cast<unsigned long>(taken);

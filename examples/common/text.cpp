@@ -3,6 +3,7 @@
 #include <array>
 #include <charconv>
 #include <cstddef>
+#include <cwchar>
 
 #include "toolkit/report.h"
 
@@ -37,20 +38,19 @@ Character first_character(std::string_view bytes) {
 
 }  // namespace
 
-std::wstring from_utf8(std::string_view bytes) {
-    std::wstring wide;
+std::u32string characters_of(std::string_view bytes) {
+    std::u32string characters;
     while (!bytes.empty()) {
         const Character next = first_character(bytes);
-        wide += static_cast<wchar_t>(next.number);
+        characters += next.number;
         bytes.remove_prefix(next.length);
     }
-    return wide;
+    return characters;
 }
 
-std::string to_utf8(std::wstring_view wide) {
+std::string to_utf8(std::u32string_view characters) {
     std::string bytes;
-    for (const wchar_t character : wide) {
-        const auto number = static_cast<char32_t>(character);
+    for (const char32_t number : characters) {
         constexpr std::array<char32_t, 4> leads = {0x00, 0xC0, 0xE0, 0xF0};
         const unsigned tails = number < 0x80 ? 0 : number < 0x800 ? 1 : number < 0x10000 ? 2 : 3;
         bytes += static_cast<char>(leads[tails] | number >> (6 * tails));
@@ -58,6 +58,32 @@ std::string to_utf8(std::wstring_view wide) {
             bytes += static_cast<char>(0x80 | (number >> (6 * tail) & 0x3F));
     }
     return bytes;
+}
+
+std::wstring from_utf8(std::string_view bytes) {
+    std::wstring wide;
+    for (char32_t number : characters_of(bytes)) {
+        if (number > WCHAR_MAX) {
+            wide += static_cast<wchar_t>(0xD7C0 + (number >> 10));
+            number = 0xDC00 + (number & 0x3FF);
+        }
+        wide += static_cast<wchar_t>(number);
+    }
+    return wide;
+}
+
+std::string to_utf8(std::wstring_view wide) {
+    std::u32string characters;
+    for (const wchar_t unit : wide) {
+        const auto number = static_cast<char32_t>(unit);
+        const bool ends_pair = sizeof(wchar_t) == 2 && (number & 0xFC00) == 0xDC00 && !characters.empty() &&
+                               (characters.back() & 0xFFFFFC00) == 0xD800;
+        if (ends_pair)
+            characters.back() = 0x10000 + ((characters.back() & 0x3FF) << 10) + (number & 0x3FF);
+        else
+            characters += number;
+    }
+    return to_utf8(characters);
 }
 
 std::string on_one_line(std::string_view bytes) {

@@ -41,7 +41,7 @@ HANDLE Host_Platform::CreateFileW(const wchar_t* name, DWORD access, DWORD share
                                   SECURITY_ATTRIBUTES* security, DWORD disposition, DWORD attributes,
                                   HANDLE file_template) {
     const HANDLE file =
-        PX_Posix_Platform::CreateFileW(name, access, share, security, disposition, attributes, file_template);
+        Machine::CreateFileW(name, access, share, security, disposition, attributes, file_template);
     // The toolkit opens what is there only where it is a port.
     if (file != INVALID_HANDLE_VALUE && disposition == OPEN_EXISTING) {
         const std::lock_guard lock(m_lock);
@@ -53,7 +53,7 @@ HANDLE Host_Platform::CreateFileW(const wchar_t* name, DWORD access, DWORD share
 BOOL Host_Platform::WriteFile(HANDLE file, const void* bytes, DWORD size, DWORD* written,
                               OVERLAPPED* overlapped) {
     if (!is_port(file) || !bytes || overlapped)
-        return explained(PX_Posix_Platform::WriteFile(file, bytes, size, written, overlapped));
+        return explained(Machine::WriteFile(file, bytes, size, written, overlapped));
     DWORD done = 0;
     const bool passed = write_in_turns(file, static_cast<const char*>(bytes), size, done);
     if (written)
@@ -75,8 +75,7 @@ bool Host_Platform::write_in_turns(HANDLE port, const char* bytes, DWORD size, D
     bool passed = true;
     while (passed && done < size && !m_stopped && (time == 0 || Clock::now() < end)) {
         DWORD some = 0;
-        passed =
-            explained(PX_Posix_Platform::WriteFile(port, bytes + done, size - done, &some, nullptr)) != 0;
+        passed = explained(Machine::WriteFile(port, bytes + done, size - done, &some, nullptr)) != 0;
         done += some;
     }
     limit_closing(port, m_stopped ? hardly_any_time : asked);
@@ -89,19 +88,19 @@ void Host_Platform::limit_closing(HANDLE port, const COMMTIMEOUTS& timeouts) {
     COMMTIMEOUTS limit = timeouts;
     SetCommTimeouts(port, &limit);
     DWORD none = 0;
-    PX_Posix_Platform::WriteFile(port, "", 0, &none, nullptr);
+    Machine::WriteFile(port, "", 0, &none, nullptr);
 }
 
 BOOL Host_Platform::CloseHandle(HANDLE file) {
     if (is_port(file)) {
         if (m_stopped)
             limit_closing(file, hardly_any_time);
-        const BOOL closed = PX_Posix_Platform::CloseHandle(file);
+        const BOOL closed = Machine::CloseHandle(file);
         const std::lock_guard lock(m_lock);
         m_ports.erase(file);
         return closed;
     }
-    return PX_Posix_Platform::CloseHandle(file);
+    return Machine::CloseHandle(file);
 }
 
 HANDLE Host_Platform::ConnectToPrinterDlg(HWND, DWORD) {
@@ -109,13 +108,13 @@ HANDLE Host_Platform::ConnectToPrinterDlg(HWND, DWORD) {
 }
 
 DWORD Host_Platform::StartDocPrinterW(HANDLE printer, DWORD level, BYTE* info) {
-    const DWORD job = PX_Posix_Platform::StartDocPrinterW(printer, level, info);
+    const DWORD job = Machine::StartDocPrinterW(printer, level, info);
     m_jobs[printer] = job;
     return job;
 }
 
 BOOL Host_Platform::WritePrinter(HANDLE printer, void* bytes, DWORD size, DWORD* written) {
-    return explained(PX_Posix_Platform::WritePrinter(printer, bytes, size, written));
+    return explained(Machine::WritePrinter(printer, bytes, size, written));
 }
 
 BOOL Host_Platform::explained(BOOL written) {
@@ -128,7 +127,7 @@ BOOL Host_Platform::EndDocPrinter(HANDLE printer) {
     if (m_stopped)
         SetJobW(printer, m_jobs[printer], 0, nullptr, JOB_CONTROL_CANCEL);
     m_jobs.erase(printer);
-    return PX_Posix_Platform::EndDocPrinter(printer);
+    return Machine::EndDocPrinter(printer);
 }
 
 }  // namespace plot_host

@@ -6,13 +6,14 @@
 #include <set>
 #include <string>
 
-#include "toolkit/platform/posix/posix_platform.h"
+// In the folder of the system: posix or windows.
+#include "machine.h"
 
 namespace plot_host {
 
 // The machine, with a way out of a plot: once it was stopped, no port waits any longer, and a print job that
 // is not whole is cancelled when it ends.
-class Host_Platform : public PX_Posix_Platform {
+class Host_Platform : public Machine {
 public:
     // From any thread, not from a signal handler.
     void stop() { m_stopped = true; }

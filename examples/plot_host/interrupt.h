@@ -1,6 +1,6 @@
 #pragma once
 
-#include <thread>
+#include <memory>
 
 #include "examples/plot_host/host_platform.h"
 
@@ -19,12 +19,9 @@ public:
     bool was_caught() const;
 
 private:
-    void watch();
-
-    Host_Platform& m_platform;
-    int m_wake[2] = {-1, -1};
-    int m_answers = -1;
-    std::thread m_watcher;
+    // What the system of the machine takes for it.
+    struct Watch;
+    std::unique_ptr<Watch> m_watch;
 };
 
 }  // namespace plot_host

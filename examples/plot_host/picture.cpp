@@ -35,27 +35,27 @@ constexpr std::array<Look, 3> looks = {{
 }};
 
 std::string escaped(const std::string& text) {
-    std::wstring safe;
-    for (const wchar_t c : text::from_utf8(text::on_one_line(text))) {
+    std::u32string safe;
+    for (const char32_t c : text::characters_of(text::on_one_line(text))) {
         switch (c) {
-            case L'&':
-                safe += L"&amp;";
+            case U'&':
+                safe += U"&amp;";
                 break;
-            case L'<':
-                safe += L"&lt;";
+            case U'<':
+                safe += U"&lt;";
                 break;
-            case L'>':
-                safe += L"&gt;";
+            case U'>':
+                safe += U"&gt;";
                 break;
-            case L'"':
-                safe += L"&quot;";
+            case U'"':
+                safe += U"&quot;";
                 break;
-            case L'\'':
-                safe += L"&#39;";
+            case U'\'':
+                safe += U"&#39;";
                 break;
             case 0xFFFE:
             case 0xFFFF:
-                safe += L'\uFFFD';  // XML does not have these two
+                safe += U'\uFFFD';  // XML does not have these two
                 break;
             default:
                 safe += c;
@@ -67,10 +67,10 @@ std::string escaped(const std::string& text) {
 // Cut where it would run into the other panel, between characters and not within one.
 std::string shortened(const std::string& text) {
     constexpr std::size_t longest = 46;
-    std::wstring wide = text::from_utf8(text);
-    if (wide.size() > longest)
-        wide = wide.substr(0, longest - 3) + L"...";
-    return escaped(text::to_utf8(wide));
+    std::u32string characters = text::characters_of(text);
+    if (characters.size() > longest)
+        characters = characters.substr(0, longest - 3) + U"...";
+    return escaped(text::to_utf8(characters));
 }
 
 bool is_measure(float number) {

@@ -48,7 +48,7 @@ struct Saved_Device {
 //         ]
 //     }
 //
-// The type of the port is one of the words of output_words.cpp, time-outs are milliseconds, the handshake has
+// The type of the port is one of the words of toolkit/report/words.h, time-outs are milliseconds, the handshake has
 // the bits of PX_Handshake. A device string is a text of the characters U+0000 to U+00FF, a byte each; null
 // is a string that was taken away. The snapshot is what the named choices were like; without it, a name
 // stands for nothing that could be compared. The colour of a pen has two digits more, its alpha, where it is

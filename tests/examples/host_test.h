@@ -9,7 +9,6 @@
 #include <string>
 #include <vector>
 
-#include "examples/drivers/ppd/driver.h"
 #include "examples/plot_host/host.h"
 
 namespace support {
@@ -20,7 +19,7 @@ struct Outcome {
     std::string err;
 };
 
-inline Outcome run_host(const std::vector<std::string>& arguments, const Driver& driver = Ppd_Driver()) {
+inline Outcome run_host(const std::vector<std::string>& arguments, const Driver& driver) {
     std::vector<const char*> words = {"plot_host"};
     for (const std::string& argument : arguments)
         words.push_back(argument.c_str());

@@ -7,7 +7,6 @@
 #include <string>
 #include <vector>
 
-#include "examples/common/text.h"
 #include "examples/drivers/ppd/definition.h"
 #include "examples/drivers/ppd/driver.h"
 #include "examples/drivers/ppd/media.h"
@@ -23,7 +22,6 @@ namespace {
 using support::content_of;
 using support::expect_in;
 using support::Outcome;
-using support::run_host;
 
 using Flag = PX_InitTerm_Ability_Flags;
 using Strategy = PX_Validation_Strategy;
@@ -32,6 +30,10 @@ using Policy = PX_Validation_Policy;
 const std::string sample = EXAMPLE_DATA "/sample_plotter.ppd";
 const std::string plan = EXAMPLE_DATA "/floor_plan.svg";
 const std::string office_choice = EXAMPLE_DATA "/office_choice.json";
+
+Outcome run_host(const std::vector<std::string>& arguments, const Driver& driver = Ppd_Driver()) {
+    return support::run_host(arguments, driver);
+}
 
 class Plot_Host : public support::Host_Test {
 protected:
@@ -433,20 +435,6 @@ TEST_F(Plot_Host, ReportAndPictureTellWhatBecameOfTheSheet) {
     ASSERT_EQ(on_roll.code, 0) << on_roll.err;
     expect_in(on_roll.out, {"now \"Roll\", feed 3", "now \"X\", 600 x 850"});
     EXPECT_EQ(on_roll.out.find("No size was near enough"), std::string::npos) << on_roll.out;
-}
-
-TEST(Text, TakesWhatIsNoUtf8ForLatin1) {
-    EXPECT_EQ(text::from_utf8("a\xC3\xA9\xE2\x82\xAC\xF0\x9F\x96\xA8"), L"aé€\U0001F5A8");
-    for (const std::string_view bytes :
-         {"\xE9", "\xE9t", "\xC3", "\xC0\x80", "\xED\xA0\x80", "\xF4\x90\x80\x80"}) {
-        const std::wstring wide = text::from_utf8(bytes);
-        ASSERT_EQ(wide.size(), bytes.size());
-        for (std::size_t at = 0; at < bytes.size(); ++at)
-            EXPECT_EQ(wide[at], static_cast<wchar_t>(static_cast<unsigned char>(bytes[at])));
-    }
-    EXPECT_EQ(text::on_one_line("\u0085a\x7F\u009F b\u2028\u2029\u00A0c\xE9\n"), "a b \u00A0c\u00E9");
-    const std::wstring all_lengths = L"a\u00E9\u20AC\U0001F5A8";
-    EXPECT_EQ(text::from_utf8(text::to_utf8(all_lengths)), all_lengths);
 }
 
 }  // namespace

@@ -183,7 +183,7 @@ void check(const Case (&rows)[count]) {
 TEST(IO_Validator, APortIsValidByItsType) {
     constexpr const wchar_t* repaired = L"5 LPT2 default changed";
     constexpr const wchar_t* repaired_all = L"5 LPT2 all default changed";
-    constexpr const wchar_t* near = L"4 COM2 changed";
+    constexpr const wchar_t* nearest = L"4 COM2 changed";
     static constexpr auto network = [](Bench& b) { b.configure(Type::Network, L"x"); };
     static constexpr auto printer = [](Bench& b, const wchar_t* name) {
         network(b);
@@ -192,10 +192,10 @@ TEST(IO_Validator, APortIsValidByItsType) {
     // clang-format off
     check({
         {"serial", as_set_up, port, L"4 COM1"},
-        {"serial without a method", [](Bench& b) { b.serial.set_type(Type::Network); }, port, repaired, near},
+        {"serial without a method", [](Bench& b) { b.serial.set_type(Type::Network); }, port, repaired, nearest},
         {"any port, without a method", [](Bench& b) { b.serial.set_type(Type::Network); b.any_port(); }, port, L"4 COM1 all"},
-        {"serial without methods", [](Bench& b) { b.lose(Ability::IO_Methods); }, port, repaired, near},
-        {"no port name", [](Bench& b) { b.configure(Type::Serial, L""); }, port, repaired, near},
+        {"serial without methods", [](Bench& b) { b.lose(Ability::IO_Methods); }, port, repaired, nearest},
+        {"no port name", [](Bench& b) { b.configure(Type::Serial, L""); }, port, repaired, nearest},
         {"nor a port without one", [](Bench& b) { b.ports = {L":"}; b.configure(Type::Parallel, L""); }, port, L"5  default changed", L"5  changed"},
         {"not a port", [](Bench& b) { b.configure(Type::Serial, L"COM3"); b.any_port(); }, port, repaired_all, L"4 COM2 all changed"},
         {"a port of another type", [](Bench& b) { b.configure(Type::Parallel, L"COM1"); }, port, repaired, L"5 LPT2 changed"},

@@ -450,7 +450,7 @@ std::wstring nearest_mode(const std::vector<Mode>& modes, const Mode& had) {
 
 TEST(RCM_Nearest, AModeByItsNumbers) {
     // With the hundred of the systems it is as far as where the search begins.
-    constexpr long far = 2147483547;
+    constexpr long farthest = 2147483547;
     // clang-format off
     const struct {
         const char* name;
@@ -467,11 +467,11 @@ TEST(RCM_Nearest, AModeByItsNumbers) {
         {"240 tenths are 24 in single precision", {L"", 0, 0, 0}, {{L"a", 240, 0, 0}, {L"b", 0, 24, 0}}, L"a"},
         {"13 tenths are more than 1 and 3", {L"", 0, 0, 0}, {{L"a", 13, 0, 0}, {L"b", 3, 1, 0}}, L"b"},
         {"the sum in double precision", {L"", 0, 0, 0}, {{L"a", 0, 16777217, 0}, {L"b", 0, 16777216, 0}}, L"b"},
-        {"a hundred too far", {L"", 0, 0, 0, 0}, {{L"a", 0, 0, far, 9}}, L""},
-        {"too far for every system", {L"", 0, 0, 0, 4}, {{L"a", 0, 0, far, 3}}, L""},
-        {"nothing is added above the systems", {L"", 0, 0, 0, 5}, {{L"a", 0, 0, far, 0}}, L"a"},
-        {"nor below", {L"", 0, 0, 0, -1}, {{L"a", 0, 0, far + 99, 0}}, L"a"},
-        {"too far at all", {L"", 0, 0, 0, -1}, {{L"a", 0, 0, far + 100, 0}}, L""},
+        {"a hundred too far", {L"", 0, 0, 0, 0}, {{L"a", 0, 0, farthest, 9}}, L""},
+        {"too far for every system", {L"", 0, 0, 0, 4}, {{L"a", 0, 0, farthest, 3}}, L""},
+        {"nothing is added above the systems", {L"", 0, 0, 0, 5}, {{L"a", 0, 0, farthest, 0}}, L"a"},
+        {"nor below", {L"", 0, 0, 0, -1}, {{L"a", 0, 0, farthest + 99, 0}}, L"a"},
+        {"too far at all", {L"", 0, 0, 0, -1}, {{L"a", 0, 0, farthest + 100, 0}}, L""},
         {"ends of the range", {L"", 0, 0, std::numeric_limits<long>::max(), 5}, {{L"a", 0, 0, std::numeric_limits<long>::min()}}, L""},
     };
     // clang-format on

@@ -9,6 +9,7 @@
 #include <cerrno>
 #include <stdexcept>
 #include <system_error>
+#include <thread>
 
 namespace plot_host {
 namespace {
@@ -38,18 +39,32 @@ extern "C" void on_signal(int) {
 
 }  // namespace
 
-Interrupt::Interrupt(Host_Platform& platform) : m_platform(platform) {
-    if (pipe2(m_wake, O_CLOEXEC) != 0)
+struct Interrupt::Watch {
+    explicit Watch(Host_Platform& watched);
+    ~Watch();
+    Watch(const Watch&) = delete;
+    Watch& operator=(const Watch&) = delete;
+
+    void go_on();
+
+    Host_Platform& platform;
+    int wake[2] = {-1, -1};
+    int answers = -1;
+    std::thread watcher;
+};
+
+Interrupt::Watch::Watch(Host_Platform& watched) : platform(watched) {
+    if (pipe2(wake, O_CLOEXEC) != 0)
         throw std::runtime_error("no pipe can be had: " + std::generic_category().message(errno));
     caught = false;
-    wake_fd = m_wake[1];
+    wake_fd = wake[1];
     nothing_fd = open("/dev/null", O_RDONLY | O_CLOEXEC);
-    m_answers = fcntl(STDIN_FILENO, F_DUPFD_CLOEXEC, 3);
+    answers = fcntl(STDIN_FILENO, F_DUPFD_CLOEXEC, 3);
     // The signals are for this thread, whose reading they interrupt.
     sigset_t all, mine;
     sigfillset(&all);
     pthread_sigmask(SIG_SETMASK, &all, &mine);
-    m_watcher = std::thread([this] { watch(); });
+    watcher = std::thread([this] { go_on(); });
     pthread_sigmask(SIG_SETMASK, &mine, nullptr);
     struct sigaction action {};
     action.sa_handler = on_signal;
@@ -60,37 +75,42 @@ Interrupt::Interrupt(Host_Platform& platform) : m_platform(platform) {
     }
 }
 
-Interrupt::~Interrupt() {
+Interrupt::Watch::~Watch() {
     for (std::size_t at = 0; at < std::size(signals); ++at)
         sigaction(signals[at], &former[at], nullptr);
-    [[maybe_unused]] const ssize_t put = write(m_wake[1], &to_end, 1);
-    m_watcher.join();
-    if (m_answers >= 0) {
-        dup2(m_answers, STDIN_FILENO);
-        close(m_answers);
+    [[maybe_unused]] const ssize_t put = write(wake[1], &to_end, 1);
+    watcher.join();
+    if (answers >= 0) {
+        dup2(answers, STDIN_FILENO);
+        close(answers);
     }
     close(nothing_fd.exchange(-1));
-    close(m_wake[0]);
-    close(m_wake[1]);
+    close(wake[0]);
+    close(wake[1]);
 }
+
+void Interrupt::Watch::go_on() {
+    constexpr int pause = 50;
+    pollfd ready{wake[0], POLLIN, 0};
+    for (;;) {
+        if (poll(&ready, 1, platform.is_stopped() ? pause : -1) > 0) {
+            char word = to_end;
+            if (read(wake[0], &word, 1) != 1 || word == to_end)
+                return;
+            platform.stop();
+        }
+        if (caught)
+            platform.purge_ports();
+    }
+}
+
+Interrupt::Interrupt(Host_Platform& platform) : m_watch(new Watch(platform)) {
+}
+
+Interrupt::~Interrupt() = default;
 
 bool Interrupt::was_caught() const {
     return caught;
-}
-
-void Interrupt::watch() {
-    constexpr int pause = 50;
-    pollfd ready{m_wake[0], POLLIN, 0};
-    for (;;) {
-        if (poll(&ready, 1, m_platform.is_stopped() ? pause : -1) > 0) {
-            char word = to_end;
-            if (read(m_wake[0], &word, 1) != 1 || word == to_end)
-                return;
-            m_platform.stop();
-        }
-        if (caught)
-            m_platform.purge_ports();
-    }
 }
 
 }  // namespace plot_host

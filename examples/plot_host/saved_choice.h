@@ -48,14 +48,15 @@ struct Saved_Device {
 //         ]
 //     }
 //
-// The type of the port is one of the words of toolkit/report/words.h, time-outs are milliseconds, the handshake has
-// the bits of PX_Handshake. A device string is a text of the characters U+0000 to U+00FF, a byte each; null
-// is a string that was taken away. The snapshot is what the named choices were like; without it, a name
-// stands for nothing that could be compared. The colour of a pen has two digits more, its alpha, where it is
-// not opaque; a pen is known by its name, and what else is not named is that of a new pen. The list of pens
-// may be null. A custom item is known by its name too, and its type is "string", "integer" (of 32 bits),
-// "number", "boolean", "bytes" (written as a device string) or "none" with the value null. A domain or a
-// datum that is not named keeps what the configuration holds; pens and custom items are those of the list.
+// The type of the port is one of the words of toolkit/report/words.h, time-outs are milliseconds, the
+// handshake has the bits of PX_Handshake. A device string is a text of the characters U+0000 to U+00FF, a
+// byte each; null is a string that was taken away. The snapshot is what the named choices were like; without
+// it, a name stands for nothing that could be compared. The colour of a pen has two digits more, its alpha,
+// where it is not opaque; a pen is known by its name, and what else is not named is that of a new pen. The
+// list of pens may be null. A custom item is known by its name too, and its type is "string", "integer" (of
+// 32 bits), "number", "boolean", "bytes" (written as a device string) or "none" with the value null. A domain
+// or a datum that is not named keeps what the configuration holds; pens and custom items are those of the
+// list.
 //
 // Both throw std::runtime_error with one line for the user, which names the field that is at fault.
 Saved_Device load_choice(const std::filesystem::path& path, const PX_Plotter_Configuration& into);

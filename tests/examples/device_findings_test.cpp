@@ -1,6 +1,7 @@
 #include <vector>
 
 #include "examples/drivers/pen_plotter/driver.h"
+#include "examples/drivers/ppd/driver.h"
 #include "tests/examples/host_test.h"
 #include "tests/support/described_device.h"
 
@@ -12,8 +13,9 @@ using support::run_host;
 class Device_Findings : public support::Host_Test {};
 
 TEST_F(Device_Findings, TheSampleDevicesHaveNone) {
-    for (const auto& outcome : {run_host({"--device", EXAMPLE_DATA "/sample_plotter.ppd", "--check"}),
-                                run_host({"--device", "pen-plotter", "--check"}, Pen_Plotter_Driver())}) {
+    for (const auto& outcome :
+         {run_host({"--device", EXAMPLE_DATA "/sample_plotter.ppd", "--check"}, Ppd_Driver()),
+          run_host({"--device", "pen-plotter", "--check"}, Pen_Plotter_Driver())}) {
         EXPECT_EQ(outcome.code, 0) << outcome.err;
         EXPECT_EQ(outcome.out, "Nothing is wrong with the device.\n");
     }

@@ -7,6 +7,8 @@
 #include <fstream>
 #include <string>
 
+#include "tests/support/own_path.h"
+
 namespace {
 
 class Drawings : public testing::Test {
@@ -21,8 +23,7 @@ protected:
     }
 
 private:
-    const std::filesystem::path m_path = std::filesystem::path(testing::TempDir()) /
-                                         testing::UnitTest::GetInstance()->current_test_info()->name();
+    const std::filesystem::path m_path = support::own_path();
 };
 
 std::string points_of(const Drawing_Line& line) {

@@ -4,12 +4,12 @@
 
 #include <filesystem>
 #include <fstream>
-#include <random>
 #include <sstream>
 #include <string>
 #include <vector>
 
 #include "examples/plot_host/host.h"
+#include "tests/support/own_path.h"
 
 namespace support {
 
@@ -43,12 +43,7 @@ inline void expect_in(const std::string& text, const std::vector<std::string>& p
 // A folder of its own for each run of a test.
 class Host_Test : public testing::Test {
 protected:
-    void SetUp() override {
-        const auto* const test = testing::UnitTest::GetInstance()->current_test_info();
-        m_folder = std::filesystem::path(testing::TempDir()) /
-                   (std::string("plot_host_") + test->name() + '_' + std::to_string(std::random_device()()));
-        std::filesystem::create_directories(m_folder);
-    }
+    void SetUp() override { std::filesystem::create_directories(m_folder); }
     void TearDown() override { std::filesystem::remove_all(m_folder); }
 
     std::string path(const std::string& name) const { return (m_folder / name).string(); }
@@ -59,7 +54,7 @@ protected:
     }
 
 private:
-    std::filesystem::path m_folder;
+    const std::filesystem::path m_folder = own_path();
 };
 
 }  // namespace support

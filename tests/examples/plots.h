@@ -16,6 +16,7 @@
 #include "examples/plot_host/configuration.h"
 #include "examples/plot_host/destination.h"
 #include "examples/plot_host/host_platform.h"
+#include "tests/support/own_path.h"
 #include "tests/support/test_handler.h"
 
 namespace support {
@@ -91,9 +92,7 @@ protected:
     plot_host::Machine m_platform;
     PX_Plotter_Device_Data m_renderer;
     const PX_Plotter_Options& m_options = m_renderer.get_plotter_options();
-    const std::filesystem::path m_folder =
-        std::filesystem::path(testing::TempDir()) /
-        (std::string("plots_") + testing::UnitTest::GetInstance()->current_test_info()->name());
+    const std::filesystem::path m_folder = own_path();
     const Pen_Plotter_Driver m_pens;
 };
 

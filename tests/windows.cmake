@@ -19,40 +19,20 @@ endfunction()
 
 # The toolkit is in the program itself: an allocation that is to fail does so on both sides.
 function(marvcon_test name)
-    list(LENGTH ARGN files)
-    if(files GREATER 12)
-        marvcon_parted_test(${name} ${ARGN})
-    else()
-        marvcon_test_with(marvcon_static marvcon_static_scripted_platform ${name} ${ARGN})
-    endif()
+    marvcon_test_with(marvcon_static marvcon_static_scripted_platform ${name} ${ARGN})
 endfunction()
 
-# A program of one file of the tests `name`, with its objects as they are: those that import nothing by name find
-# the library all the same.
-function(marvcon_part_of_test name stem toolkit machine program)
-    marvcon_test_with(${toolkit} ${machine} ${program}
-                      "$<FILTER:$<TARGET_OBJECTS:${name}>,INCLUDE,/(${stem}|allocations)[.]cpp>")
-    set_target_properties(${program} PROPERTIES LINKER_LANGUAGE CXX)
-endfunction()
-
-# The time of this linker grows with the square of what it links: of a large program, each file of tests becomes one.
-function(marvcon_parted_test name)
-    add_library(${name} OBJECT ${ARGN})
-    target_link_libraries(${name} PRIVATE marvcon_static_scripted_platform marvcon_compile_options gtest)
-    target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR})
+# The tests of a program that order no failure of an allocation are run against the library as well, which has its own
+# operator new.
+function(marvcon_dll_test name)
+    set(files)
     foreach(file ${ARGN})
-        cmake_path(GET file STEM stem)
-        if(NOT stem MATCHES "_test$")
-            continue()
-        endif()
-        marvcon_part_of_test(${name} ${stem} marvcon_static marvcon_static_scripted_platform ${name}.${stem})
-        # What orders no failure of an allocation is run against the library as well: that has its own operator new.
         file(STRINGS ${file} orders REGEX "support/(allocations|fields|rcm)[.]h")
-        if(NOT orders)
-            marvcon_part_of_test(${name} ${stem} marvcon marvcon_scripted_platform marvcon_dll_test.${stem})
+        if(file MATCHES "_test[.]cpp$" AND NOT orders)
+            list(APPEND files ${file})
         endif()
     endforeach()
-    set_property(GLOBAL APPEND PROPERTY marvcon_test_sources ${ARGN})
+    marvcon_test_with(marvcon marvcon_scripted_platform ${name} ${files})
 endfunction()
 
 # What is not run here: a file of tests, or a test that is no file, and why.

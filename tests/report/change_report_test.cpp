@@ -88,7 +88,7 @@ TEST(Change_Report, TellsHowEachMediaDatumChanged) {
               "1, reset, default, nearest 1\n"
               "2, reset, default, nearest\n"
               "3, reset, default, nearest 1\n"
-              "4, reset +8 reset +12 along, default +8 own rule +12 along, nearest 4.761905\n"
+              "4, reset +8 reset +12 along, default +12 along, nearest 4.761905\n"
               "5, reset +13 reset +14 reset +15 reset +16 reset, default +13 default +14 default +15 default "
               "+16 default, nearest 0\n"
               "6, reset, default, nearest\n"

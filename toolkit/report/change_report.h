@@ -41,6 +41,7 @@ struct PX_Change_Kind {
     };
 };
 
+// A row of the report.
 struct PX_Datum_Change {
     PX_Datum_Id datum;
     // In UTF-8, on one line. A custom item has the name that the device shows for it, in quotes, and its

@@ -49,6 +49,7 @@ struct PX_Device_Effect {
     };
 };
 
+// One thing that is wrong.
 struct PX_Device_Finding {
     long domain;          // its bit of PX_Domain_Mask; 0 for what belongs to the whole device
     std::wstring object;  // the way to it, such as "source 'tray', entry 'upper', default size"
@@ -76,7 +77,8 @@ struct PX_Device_Finding {
 // keeps its path.
 std::vector<PX_Device_Finding> px_check_device(const PX_Plotter_Definition& device);
 
-// In English, without a full stop: the domain, the fault, what comes of it, and all of it on one line.
+// Each is in English, without a full stop: the domain, the fault, what comes of it, and all of it on one
+// line.
 const wchar_t* px_domain_text(const PX_Device_Finding& finding);
 const wchar_t* px_fault_text(PX_Device_Fault::Enum fault);
 std::wstring px_effect_text(const PX_Device_Finding& finding);

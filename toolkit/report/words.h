@@ -12,6 +12,7 @@
 // What values are called in reports, and what a host may call them in its files and on its command line: a
 // table of words each.
 
+// A line of such a table.
 template <class Value>
 struct PX_Word {
     const char* word;
@@ -25,6 +26,7 @@ const char* px_word_in(const PX_Word<Value> (&words)[count], Value value, const 
     return found == std::end(words) ? otherwise : found->word;
 }
 
+// Nothing for a word that is not in the table.
 template <class Value, std::size_t count>
 std::optional<Value> px_value_in(const PX_Word<Value> (&words)[count], std::string_view word) {
     const auto found = std::ranges::find(words, word, &PX_Word<Value>::word);
@@ -45,7 +47,7 @@ std::string px_take_words(const PX_Word<long> (&words)[count], long& bits, const
     return taken;
 }
 
-// "none" for a number that is no type, and "undefined" for one that is no ability.
+// Each by its table: "none" for a number that is no type, "undefined" for one that is no ability.
 const char* px_word_of(PX_IO_Type::Enum type);
 std::optional<PX_IO_Type::Enum> px_io_type_of(std::string_view word);
 const char* px_word_of(PX_Ability_Value::Enum ability);
@@ -53,7 +55,8 @@ const char* px_word_of(PX_Ability_Value::Enum ability);
 // Such as "XON/XOFF out, CTS out"; "none" for 0. A bit without a word is told by its number.
 std::string px_handshake_words(long handshake);
 
-// "#rrggbb"; with two digits more for an alpha that is not opaque. No colour is opaque black, as to a pen.
+// Each way: "#rrggbb"; with two digits more for an alpha that is not opaque. No colour is opaque black, as to
+// a pen.
 std::string px_word_of(const PX_RGB32* color);
 std::optional<PX_RGB32> px_color_of(std::string_view word);
 

@@ -64,7 +64,7 @@ public:
     void set_handshakes(long handshakes) override { m_handshakes = handshakes; }
 
 protected:
-    // Copies of the lists, in the frame of `function`; no memory is MVNK_Memory_Exception 1101.
+    // Each stores a copy of a list, in the frame of `function`; no memory is MVNK_Memory_Exception 1101.
     void store_protocol_list(const PX_Named_Object_List<PX_Protocol>* list, const wchar_t* function) {
         px_store_list(m_protocol_list, list, function, L"m_protocol_list", px_std_io_cfg_source.file_tag);
     }
@@ -72,6 +72,7 @@ protected:
         px_store_list(m_baud_rate_list, list, function, L"m_baud_rate_list", px_std_io_cfg_source.file_tag);
     }
 
+    // These are for the class that completes the contract.
     PX_IO_Type::Enum m_type = PX_IO_Type::No_IO_Type;
     long m_bidi_flags = 0;
     PX_Smart_Pointer<PX_Named_Object_List<PX_Protocol>> m_protocol_list = px_new_list<PX_Protocol>();

@@ -10,7 +10,9 @@
 // search takes.
 PX_EXPORT double px_media_size_score(const PX_Media_Settings& had, const wchar_t* had_name,
                                      const PX_Media_Size& size, const PX_Media_Description& description);
+// By resolution and drying time.
 PX_EXPORT double px_media_type_score(const PX_Media_Settings& had, const PX_Media_Type& type);
+// By width and frame height.
 PX_EXPORT double px_media_source_entry_score(const PX_Media_Settings& had,
                                              const PX_Media_Source_Entry& entry);
 // How many of the finishing options that were configured the destination lacks, 0 to 4; options that the

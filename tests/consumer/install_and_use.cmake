@@ -24,8 +24,14 @@ function(expect_output expected)
 endfunction()
 
 if(PACKAGES)
-    # Unpacked only: the root has nothing that they depend on, and no program that could configure them.
     run(${CMAKE_CPACK_COMMAND} --config ${TOOLKIT_BUILD_DIR}/CPackConfig.cmake -B ${WORK_DIR}/packages)
+endif()
+if(PACKAGES AND EMULATOR)
+    file(GLOB package ${WORK_DIR}/packages/*.zip)
+    file(ARCHIVE_EXTRACT INPUT ${package} DESTINATION ${root})
+    file(GLOB prefix ${root}/*)
+elseif(PACKAGES)
+    # Unpacked only: the root has nothing that they depend on, and no program that could configure them.
     file(GLOB packages ${WORK_DIR}/packages/*.deb)
     file(MAKE_DIRECTORY ${root}/var/lib/dpkg/info ${root}/var/lib/dpkg/updates)
     file(TOUCH ${root}/var/lib/dpkg/status)

@@ -168,8 +168,8 @@ std::optional<Arguments> parse_arguments(int count, const char* const* words, st
         ->check(one_of(pick_lists));
     auto* const check = app.add_flag("--check", arguments.check,
                                      "tell what about the device makes a run fail or repeat itself, and end");
-    for (const char* const other :
-         {"--choice", "--save", "--picture", "--strategy", "--policy", "--fixed-settables", "--to", "--list"})
+    for (const char* const other : {"--choice", "--save", "--picture", "--strategy", "--policy",
+                                    "--fixed-settables", "--dry-run", "--to", "--list"})
         check->excludes(other);
     app.add_option("--log", arguments.log, "file that failures are written to")->type_name("FILE");
     try {

@@ -17,7 +17,7 @@ fi
 make_package() {
     cmake --preset "$1" -DCMAKE_CXX_COMPILER_LAUNCHER="$launcher" >/dev/null
     cmake --build --preset "$1" --parallel "$(nproc)"
-    cpack --preset "$1" -B "build/$1/packages"
+    cpack --preset "$1" -B "$PWD/build/$1/packages"
 }
 
 need_packages g++ cmake ninja-build libcups2-dev dpkg-dev file || exit 1

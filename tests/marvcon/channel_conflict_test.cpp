@@ -185,6 +185,13 @@ TEST(PortConflict, TellsALongPortInATextThatIsCut) {
     EXPECT_EQ(job.told(), L"box 0 0 (null): " + std::wstring(760, L'x') + L"COM1 of the long nameyyyy");
 }
 
+TEST(PortConflict, ReadsTheFormatsOfOtherTextModules) {
+    Contested job(on_com1, L"COM1", PX_Spool_Announce::Box_Always);
+    job.machine.install_module(L"mvnres11.dll", {{229, L"%s at 100%%, %d of %ls%"}});
+    EXPECT_EQ(job.owner(), L"A");
+    EXPECT_EQ(job.told(), L"box 0 0 (null): COM1 at 100%, %d of COM1%");
+}
+
 TEST(PortConflict, ReportsNoMemory) {
     Contested job(on_com1, L"COM1", PX_Spool_Announce::Log_Once);
     job.machine.pad_enumerations_to(20000);

@@ -40,9 +40,8 @@ public:
                         const wchar_t* detail, const wchar_t* file) override;
 
     // The log is opened for appending at its first message, in the system code page; on Windows, nobody else
-    // has it meanwhile. With a log open, the
-    // same name changes nothing; another name closes it and leaves no name at all, so that logging stops
-    // until the next call.
+    // has it meanwhile. With a log open, the same name changes nothing; another name closes it and leaves no
+    // name at all, so that logging stops until the next call.
     bool set_log_handle(const wchar_t* name) override;
     // Reaches the parent, and through it all of its children.
     void set_quiet_mode(bool quiet) override;

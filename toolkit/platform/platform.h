@@ -14,8 +14,9 @@ class PX_EXPORT PX_Module_Platform {
 public:
     virtual ~PX_Module_Platform();
 
-    // A module by name, looked for along the machine's search path; a relative name may hold a folder. A null
-    // handle when there is none.
+    // A module by name, looked for where the toolkit's modules lie: on Windows by its own search from the
+    // program's folder on, elsewhere never along the system's library path. A relative name may hold a
+    // folder. A null handle when there is none.
     virtual HMODULE LoadLibraryExW(const wchar_t* name, HANDLE file, DWORD flags) = 0;
     virtual HMODULE LoadLibraryW(const wchar_t* name) = 0;
     virtual FARPROC GetProcAddress(HMODULE module, const char* name) = 0;

@@ -2,7 +2,7 @@
 # Runs all of bench/ and writes the tables of docs/performance.md: sh scripts/bench.sh [repetitions, 5]
 set -eu
 cd "$(dirname "$0")/.."
-. scripts/packages.sh
+. scripts/common.sh
 
 repetitions=${1-5}
 case $#:$repetitions in
@@ -17,19 +17,13 @@ need_packages g++ cmake ninja-build pkg-config python3 libbenchmark-dev libcups2
     nlohmann-json3-dev librapidxml-dev || exit 1
 
 build=build/bench
-launcher=
-if command -v ccache >/dev/null; then
-    launcher=ccache
-fi
-cmake --preset bench -DCMAKE_CXX_COMPILER_LAUNCHER="$launcher" >/dev/null
-cmake --build --preset bench --parallel "$(nproc)"
+build_preset bench
 
 # Beside libcups: a real office printer, and the sample where it cannot be had.
 need_packages openprinting-ppds || true
 description=$build/office.ppd
-driver=/usr/lib/cups/driver/openprinting-ppds
-name=$("$driver" list 2>/dev/null | sed -n 's|^"\([^"]*Sharp/shac260\.ppd\)".*|\1|p' | head -n 1) || name=
-if [ -z "$name" ] || ! "$driver" cat "$name" >"$description"; then
+name=$("$descriptions" list 2>/dev/null | sed -n 's|^"\([^"]*Sharp/shac260\.ppd\)".*|\1|p' | head -n 1) || name=
+if [ -z "$name" ] || ! "$descriptions" cat "$name" >"$description"; then
     cp examples/data/sample_plotter.ppd "$description"
 fi
 

@@ -4,11 +4,10 @@
 # build/demo.
 set -eu
 cd "$(dirname "$0")/.."
-. scripts/packages.sh
+. scripts/common.sh
 
 build=build/demo
 work=$build/devices
-driver=/usr/lib/cups/driver/openprinting-ppds
 
 # Puts the first description into $2 whose name in the packages holds one of the patterns $4.. and which has a
 # line of the pattern $3.
@@ -18,9 +17,9 @@ take_description() {
     line=$3
     shift 3
     for pattern; do
-        "$driver" list | sed -n 's/^"\([^"]*\)".*/\1/p' | grep -- "$pattern" >"$work/names" || continue
+        "$descriptions" list | sed -n 's/^"\([^"]*\)".*/\1/p' | grep -- "$pattern" >"$work/names" || continue
         while read -r name; do
-            "$driver" cat "$name" >"$file" </dev/null || continue
+            "$descriptions" cat "$name" >"$file" </dev/null || continue
             if grep -q -- "$line" "$file"; then
                 echo "$kind: ${name#*:}"
                 return 0

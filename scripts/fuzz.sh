@@ -2,7 +2,7 @@
 # Searches for inputs that break the toolkit, two programs at a time: sh scripts/fuzz.sh [seconds for each, 60]
 set -eu
 cd "$(dirname "$0")/.."
-. scripts/packages.sh
+. scripts/common.sh
 
 seconds=${1-60}
 case $#:$seconds in
@@ -25,12 +25,7 @@ export UBSAN_OPTIONS=print_stacktrace=1
 export seconds
 export build=build/fuzz
 
-launcher=
-if command -v ccache >/dev/null; then
-    launcher=ccache
-fi
-cmake --preset fuzz -DCMAKE_CXX_COMPILER_LAUNCHER="$launcher" >/dev/null
-cmake --build --preset fuzz --parallel "$(nproc)"
+build_preset fuzz
 
 mkdir -p "$build/artifacts"
 # What one program found goes into the start of its next search. The engine's own schedule is left out: keeping its

@@ -3,20 +3,15 @@
 # sh scripts/package.sh
 set -eu
 cd "$(dirname "$0")/.."
-. scripts/packages.sh
+. scripts/common.sh
 
 if [ $# -ne 0 ]; then
     echo "usage: sh scripts/package.sh" >&2
     exit 2
 fi
 
-launcher=
-if command -v ccache >/dev/null; then
-    launcher=ccache
-fi
 make_package() {
-    cmake --preset "$1" -DCMAKE_CXX_COMPILER_LAUNCHER="$launcher" >/dev/null
-    cmake --build --preset "$1" --parallel "$(nproc)"
+    build_preset "$1"
     cpack --preset "$1" -B "$PWD/build/$1/packages"
 }
 

@@ -2,7 +2,7 @@
 # Builds the toolkit and runs its tests: sh scripts/test.sh [--preset dev|asan|release|windows]
 set -eu
 cd "$(dirname "$0")/.."
-. scripts/packages.sh
+. scripts/common.sh
 
 preset=dev
 case $#:${1-} in
@@ -34,12 +34,7 @@ asan)
 esac
 
 jobs=$(nproc)
-launcher=
-if command -v ccache >/dev/null; then
-    launcher=ccache
-fi
-cmake --preset "$preset" -DCMAKE_CXX_COMPILER_LAUNCHER="$launcher"
-cmake --build --preset "$preset" --parallel "$jobs"
+build_preset "$preset"
 if [ "$preset" != windows ]; then
     exec ctest --preset "$preset" --parallel "$jobs"
 fi

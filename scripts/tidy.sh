@@ -3,7 +3,7 @@
 # therefore not one of the tests.
 set -eu
 cd "$(dirname "$0")/.."
-. scripts/packages.sh
+. scripts/common.sh
 
 need_packages g++ cmake ninja-build libgtest-dev python3 libcups2-dev libcli11-dev nlohmann-json3-dev librapidxml-dev \
     clang-tidy || exit 1

@@ -1,6 +1,20 @@
 # Sourced by the other scripts.
 # shellcheck shell=sh
 
+# What gives the printer descriptions of the package openprinting-ppds.
+# shellcheck disable=SC2034
+descriptions=/usr/lib/cups/driver/openprinting-ppds
+
+# Configures and builds a preset with all processors, through the compiler's cache where there is one.
+build_preset() {
+    launcher=
+    if command -v ccache >/dev/null; then
+        launcher=ccache
+    fi
+    cmake --preset "$1" --log-level=NOTICE -DCMAKE_CXX_COMPILER_LAUNCHER="$launcher"
+    cmake --build --preset "$1" --parallel "$(nproc)"
+}
+
 # Installs those of the named Debian packages that are missing. Not 0, with a word on standard error, when
 # that cannot be done.
 need_packages() {

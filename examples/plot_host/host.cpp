@@ -2,6 +2,7 @@
 
 #include <cerrno>
 #include <fstream>
+#include <new>
 #include <optional>
 #include <stdexcept>
 #include <string>
@@ -53,8 +54,9 @@ void set_up(Host_Platform& platform, const Arguments& arguments) {
         if (!platform.map_port(text::from_utf8(name).c_str(), mapped.c_str()))
             throw std::runtime_error("'" + name + "' is no port that can be mapped, such as COM1 or LPT2");
     }
-    if (arguments.print_server)
-        platform.use_print_server(arguments.print_server->first.c_str(), arguments.print_server->second);
+    if (arguments.print_server &&
+        !platform.use_print_server(arguments.print_server->first.c_str(), arguments.print_server->second))
+        throw std::bad_alloc();
 }
 
 // A driver that opens a pipe would wait for somebody to write, and a plot to one for somebody to read.

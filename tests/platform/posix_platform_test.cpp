@@ -18,6 +18,7 @@
 #include <tuple>
 #include <utility>
 
+#include "tests/support/allocations.h"
 #include "tests/support/terminal.h"
 #include "tests/support/test_handler.h"
 #include "toolkit/platform/floating_point_guard.h"
@@ -127,6 +128,19 @@ TEST(PosixMessageBox, WritesAllOfALongTextToASlowReader) {
     EXPECT_EQ(read_all(ends[0]).size(), text.size() + 2);
     box.join();
     close(ends[0]);
+}
+
+TEST(PosixMessageBox, IsShownWithoutMemoryAndEndsTheMatter) {
+    Terminal terminal;
+    terminal.type("R\n");
+    PX_Posix_Platform platform(terminal.program, terminal.program);
+    int answer = 0;
+    {
+        const support::Out_Of_Memory none(0, true);
+        answer = platform.MessageBoxExW(nullptr, L"T", L"C", 50, 0);
+    }
+    EXPECT_EQ(answer, IDABORT);
+    EXPECT_EQ(terminal.shown(), "C\nT\n");
 }
 
 TEST(PosixModules, LooksBesideTheProgramAndNeverInTheSystem) {

@@ -4,16 +4,19 @@
 #include <sys/stat.h>
 #include <sys/wait.h>
 
+#include <algorithm>
 #include <chrono>
 #include <cstring>
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <future>
 #include <iterator>
 #include <string>
 #include <utility>
 #include <vector>
 
+#include "tests/support/allocations.h"
 #include "tests/support/pseudo_terminal.h"
 #include "toolkit/platform/posix/port_names.h"
 #include "toolkit/platform/posix/posix_platform.h"
@@ -138,8 +141,10 @@ TEST_F(Posix_Ports, Enumerated_With_Those_That_Are_Mapped) {
     EXPECT_EQ(count, 0u);
     std::vector<BYTE> buffer(needed);
     EXPECT_FALSE(platform.EnumPortsW(nullptr, 2, buffer.data(), needed - 1, &needed, &count));
-    EXPECT_FALSE(platform.EnumPortsW(nullptr, 1, buffer.data(), needed, &needed, &count));
-    ASSERT_TRUE(platform.EnumPortsW(nullptr, 2, buffer.data(), needed, &needed, &count));
+    const auto size = static_cast<DWORD>(buffer.size());
+    EXPECT_FALSE(platform.EnumPortsW(nullptr, 1, buffer.data(), size, &needed, &count));
+    EXPECT_EQ(needed + count, 0u) << "an unknown level";
+    ASSERT_TRUE(platform.EnumPortsW(nullptr, 2, buffer.data(), size, &needed, &count));
     ASSERT_GE(count, 2u);
     const auto* const ports = reinterpret_cast<const PORT_INFO_2W*>(buffer.data());
     std::wstring names = L" ";
@@ -333,5 +338,79 @@ TEST_F(Posix_Ports, An_Unknown_Handle_Fails) {
         EXPECT_FALSE(platform.GetCommState(none, &state));
     }
     EXPECT_STREQ(platform.last_error(), L"A handle: Bad file descriptor");
+}
+
+TEST_F(Posix_Ports, Without_Memory_An_Operation_Fails_And_Throws_Nothing) {
+    const std::wstring path = wide(folder.path / "plan.plt");
+    platform.map_port(L"COM1", terminal.name());
+    platform.use_print_server("127.0.0.1", 1);
+    std::vector<BYTE> records(65'536);
+    const auto size = static_cast<DWORD>(records.size());
+    DWORD needed = 0;
+    DWORD count = 0;
+    const auto write_to = [&](const wchar_t* name, DWORD disposition) {
+        const HANDLE file = platform.CreateFileW(name, both, 0, nullptr, disposition, 0, nullptr);
+        if (file != INVALID_HANDLE_VALUE) {
+            platform.WriteFile(file, "x", 1, &count, nullptr);
+            platform.CloseHandle(file);
+        }
+    };
+    const struct {
+        const char* what;
+        std::function<void()> call;
+    } rows[] = {
+        {"a file", [&] { write_to(path.c_str(), CREATE_ALWAYS); }},
+        {"a port", [&] { write_to(L"COM1", OPEN_EXISTING); }},
+        {"a mapped port",
+         [&] {
+             platform.map_port(L"COM2", "/dev/serial/by-id/the-plotter");
+             platform.map_port(L"COM2", nullptr);
+         }},
+        {"the ports", [&] { platform.EnumPortsW(nullptr, 2, records.data(), size, &needed, &count); }},
+        {"the printers",
+         [&] { platform.EnumPrintersW(6, nullptr, 2, records.data(), size, &needed, &count); }},
+        {"a printer",
+         [&] {
+             wchar_t name[] = L"\\\\127.0.0.1\\the-plotter";
+             HANDLE printer = nullptr;
+             platform.OpenPrinterW(name, &printer, nullptr);
+         }},
+        {"a module", [&] { platform.LoadLibraryW(L"no/such/module.dll"); }},
+        {"the path of the program",
+         [&] {
+             wchar_t program[260];
+             platform.GetModuleFileNameW(nullptr, program, 260);
+         }},
+        {"a stream", [&] {
+             std::FILE* stream = nullptr;
+             if (platform._wfopen_s(&stream, path.c_str(), L"r") == 0)
+                 std::fclose(stream);
+         }}};
+    const auto allocations_of = [](const std::function<void()>& call) {
+        const std::size_t before = support::allocation_count();
+        call();
+        return static_cast<int>(support::allocation_count() - before);
+    };
+    constexpr int some = 60;
+    for (const auto& row : rows) {
+        const int all = allocations_of(row.call);
+        EXPECT_GT(all, 0) << row.what;
+        for (int successes = 0; successes < all; ++successes) {
+            // In between, one device is looked at like the other.
+            if (successes == some)
+                successes = std::max(some, all - some);
+            for (const bool for_good : {false, true}) {
+                platform.CloseHandle(nullptr);
+                int taken = 0;
+                {
+                    const support::Out_Of_Memory none(successes, for_good);
+                    EXPECT_NO_THROW(taken = allocations_of(row.call)) << row.what;
+                }
+                EXPECT_GT(taken, successes) << row.what;
+                EXPECT_STREQ(platform.last_error(), L"No memory") << row.what << ", allocation " << successes;
+            }
+        }
+        EXPECT_EQ(allocations_of(row.call), all) << row.what << " comes back";
+    }
 }
 }  // namespace

@@ -16,6 +16,8 @@
 #include <vector>
 
 #include "tests/support/terminal.h"
+#include "toolkit/core/module.h"
+#include "toolkit/marvcon/std_sys_io_caps/capabilities.h"
 #include "toolkit/platform/posix/posix_platform.h"
 
 namespace {
@@ -42,6 +44,13 @@ public:
         port = ntohs(address.sin_port);
     }
     ~Listener() { close(fd); }
+    // How many wait to be accepted; they are sent away.
+    int visitors() {
+        int count = 0;
+        for (pollfd ready = {fd, POLLIN, 0}; poll(&ready, 1, 0) == 1; ++count)
+            close(accept(fd, nullptr, nullptr));
+        return count;
+    }
     // All that the next visitor sends.
     std::string receive() {
         pollfd ready = {fd, POLLIN, 0};
@@ -316,11 +325,11 @@ TEST(PosixPrintServer, ThatGivesNoAnswerIsSoonGivenUp) {
     auto listener = std::make_unique<Listener>();
     const int port = listener->port;
     PX_Posix_Platform platform;
-    platform.use_print_server("127.0.0.1", port);
     BYTE bytes[256];
     for (const bool is_silent : {true, false}) {
         if (!is_silent)
             listener.reset();
+        EXPECT_TRUE(platform.use_print_server("127.0.0.1", port));
         DWORD needed = 1;
         DWORD count = 1;
         EXPECT_LT(
@@ -334,4 +343,27 @@ TEST(PosixPrintServer, ThatGivesNoAnswerIsSoonGivenUp) {
             << platform.last_error();
         EXPECT_LT(seconds_of([&] { EXPECT_FALSE(open_printer(platform, L"line")); }), 4);
     }
+}
+
+TEST(PosixPrintServer, ThatIsSilentIsWaitedForOnceForAllPorts) {
+    Listener listener;
+    PX_Posix_Platform platform;
+    platform.use_print_server("127.0.0.1", listener.port);
+    for (const wchar_t* const port : {L"COM61", L"COM62", L"LPT61", L"LPT62"})
+        platform.map_port(port, "/dev/null");
+    {
+        PX_Module_Exit();
+        const PX_Use_Platform use(platform);
+        const PX_Std_System_IO_Capabilities system;
+        EXPECT_GE(system.get_port_list()->size(), 4);
+    }
+    PX_Module_Exit();
+    const int visitors = listener.visitors();
+    EXPECT_TRUE(visitors == 1 || visitors == 2) << visitors;
+
+    platform.use_print_server("127.0.0.1", listener.port);
+    DWORD needed = 0;
+    DWORD count = 0;
+    EXPECT_FALSE(platform.EnumPrintersW(6, nullptr, 2, nullptr, 0, &needed, &count));
+    EXPECT_EQ(listener.visitors(), 1) << "the host named it again";
 }

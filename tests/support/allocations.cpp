@@ -7,11 +7,16 @@ namespace {
 
 std::size_t allocations = 0;
 int successes_left = -1;  // -1: no failure is ordered
+bool fails_for_good = false;
 
 void* allocate(std::size_t size) {
     ++allocations;
-    if (successes_left >= 0 && successes_left-- == 0)
+    if (successes_left == 0) {
+        successes_left = fails_for_good ? 0 : -1;
         return nullptr;
+    }
+    if (successes_left > 0)
+        --successes_left;
     return std::malloc(size ? size : 1);
 }
 
@@ -57,7 +62,8 @@ std::size_t allocation_count() {
     return allocations;
 }
 
-Out_Of_Memory::Out_Of_Memory(int successes) {
+Out_Of_Memory::Out_Of_Memory(int successes, bool for_good) {
+    fails_for_good = for_good;
     successes_left = successes;
 }
 

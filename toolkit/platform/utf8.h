@@ -45,9 +45,9 @@ inline std::string px_to_utf8(std::wstring_view text) {
     return px_encode_utf8(text);
 }
 
-// Bytes that belong to no character become U+FFFD, each by itself.
-inline std::wstring px_from_utf8(std::string_view bytes) {
-    std::wstring text;
+// Calls `put(wchar_t)` for all of the text. Bytes that belong to no character become U+FFFD, each by itself.
+template <class Put>
+void px_put_wide(std::string_view bytes, Put put) {
     while (!bytes.empty()) {
         const auto lead = static_cast<unsigned char>(bytes.front());
         const std::size_t size = lead < 0x80 ? 1 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
@@ -63,11 +63,16 @@ inline std::wstring px_from_utf8(std::string_view bytes) {
         if (!whole)
             c = 0xFFFD;
         if (sizeof(wchar_t) == 2 && c > 0xFFFF) {
-            text += static_cast<wchar_t>(0xD7C0 + (c >> 10));
+            put(static_cast<wchar_t>(0xD7C0 + (c >> 10)));
             c = 0xDC00 + (c & 0x3FF);
         }
-        text += static_cast<wchar_t>(c);
+        put(static_cast<wchar_t>(c));
     }
+}
+
+inline std::wstring px_from_utf8(std::string_view bytes) {
+    std::wstring text;
+    px_put_wide(bytes, [&](wchar_t c) { text += c; });
     return text;
 }
 

@@ -9,7 +9,7 @@ bool Machine::map_port(const wchar_t*, const char*) {
     throw std::runtime_error("--map-port is not for Windows, which gives names to its ports by itself");
 }
 
-void Machine::use_print_server(const char*, int) {
+bool Machine::use_print_server(const char*, int) {
     throw std::runtime_error(R"(--print-server is not for Windows, whose queues are named \\server\queue)");
 }
 

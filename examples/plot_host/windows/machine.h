@@ -12,7 +12,7 @@ public:
     // Windows maps its ports and finds its print servers by itself. Both throw std::runtime_error, one line
     // for the user.
     [[noreturn]] bool map_port(const wchar_t* name, const char* device);
-    [[noreturn]] void use_print_server(const char* host, int port);
+    [[noreturn]] bool use_print_server(const char* host, int port);
 
     // What Windows has to say of the last open or write that failed, without an end of line; empty before the
     // first.

@@ -179,7 +179,7 @@ void PX_Std_System_IO_Capabilities::list_local_port(Ports& ports, const wchar_t*
         canonical.resize(std::min(canonical.size(), longest_port_name));
 
         bool is_remote = px_begins_ignoring_case(name, L"\\\\") || is_redirected(canonical.c_str());
-        // For what it costs: the answer is not used here.
+        // Asked of every local port, as hosts see it asked; the list does not depend on the answer.
         if (!is_remote)
             detect_io_port_conflict(canonical.c_str());
 

@@ -6,8 +6,10 @@
 // The first one asks the machine; from then on the process keeps that list, and nothing refreshes it.
 class PX_EXPORT PX_Std_System_IO_Capabilities : public PX_System_IO_Capabilities, public PX_Object {
 public:
-    // What the machine does not answer is not there: without ports, seven of the usual names stand in. No
-    // memory is MVNK_Memory_Exception 1101, which leaves the list as far as it came.
+    // What the machine does not answer is not there: without ports, seven of the usual names stand in. Every
+    // local port that is not redirected has the machine asked for its printers, as detect_io_port_conflict
+    // does, and the list does not depend on the answer. No memory is MVNK_Memory_Exception 1101, which leaves
+    // the list as far as it came.
     PX_Std_System_IO_Capabilities();
     // A copy would share the list: clone is the operation that copies.
     PX_Std_System_IO_Capabilities(const PX_Std_System_IO_Capabilities&) = delete;

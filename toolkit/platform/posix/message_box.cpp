@@ -4,8 +4,11 @@
 #include <optional>
 #include <span>
 #include <string>
+#include <string_view>
+#include <utility>
 
 #include "toolkit/platform/back_end.h"
+#include "toolkit/platform/posix/last_error.h"
 #include "toolkit/platform/posix/posix_platform.h"
 #include "toolkit/platform/posix/terminal.h"
 #include "toolkit/platform/utf8.h"
@@ -35,6 +38,30 @@ bool is_chosen(const Choice& choice, const std::string& line) {
            (line.size() == 1 && strncasecmp(line.c_str(), choice.word, 1) == 0);
 }
 
+// Several texts at a time, and without memory of their own: what they tell may be that there is none.
+class Printed {
+public:
+    explicit Printed(int fd) : m_fd(fd) {}
+    Printed(const Printed&) = delete;
+    Printed& operator=(const Printed&) = delete;
+    ~Printed() { flush(); }
+
+    void add(std::wstring_view text) {
+        px_put_utf8(text, [&](char byte) {
+            if (m_size == sizeof m_bytes)
+                flush();
+            m_bytes[m_size++] = byte;
+        });
+    }
+
+private:
+    void flush() { px_put(m_fd, {m_bytes, std::exchange(m_size, 0)}); }
+
+    int m_fd;
+    std::size_t m_size = 0;
+    char m_bytes[8192];
+};
+
 std::string prompt_of(std::span<const Choice> choices) {
     std::string prompt = choices.front().word;
     for (const Choice& choice : choices.subspan(1))
@@ -44,23 +71,29 @@ std::string prompt_of(std::span<const Choice> choices) {
 }  // namespace
 
 int PX_Posix_Platform::MessageBoxExW(HWND, const wchar_t* text, const wchar_t* caption, UINT type, WORD) {
-    px_put(m_questions_fd, px_to_utf8(caption ? caption : L"") + "\n" + px_to_utf8(text ? text : L"") + "\n");
+    for (Printed printed(m_questions_fd); const wchar_t* const line : {caption, text}) {
+        printed.add(line ? line : L"");
+        printed.add(L"\n");
+    }
     if (!isatty(m_questions_fd) || !isatty(m_answers_fd))
         return px_ending_answer(type);
 
-    const std::span<const Choice> choices = choices_of(type);
-    for (;;) {
-        px_put(m_questions_fd, prompt_of(choices));
-        const std::optional<std::string> line = px_get_line(m_answers_fd);
-        if (!line)
-            return px_ending_answer(type);
-        if (choices.size() == 1)
-            return choices.front().answer;
-        const std::string chosen = px_trimmed(*line);
-        for (const Choice& choice : choices)
-            if (is_chosen(choice, chosen))
-                return choice.answer;
-    }
+    const int answer = m_last_error->attempt([&] {
+        const std::span<const Choice> choices = choices_of(type);
+        for (;;) {
+            px_put(m_questions_fd, prompt_of(choices));
+            const std::optional<std::string> line = px_get_line(m_answers_fd);
+            if (!line)
+                return 0;
+            if (choices.size() == 1)
+                return choices.front().answer;
+            const std::string chosen = px_trimmed(*line);
+            for (const Choice& choice : choices)
+                if (is_chosen(choice, chosen))
+                    return choice.answer;
+        }
+    });
+    return answer ? answer : px_ending_answer(type);
 }
 
 HWND PX_Posix_Platform::GetActiveWindow() {

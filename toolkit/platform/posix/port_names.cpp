@@ -1,9 +1,12 @@
 #include "toolkit/platform/posix/port_names.h"
 
+#include <dirent.h>
+
 #include <algorithm>
 #include <array>
 #include <cctype>
 #include <fstream>
+#include <memory>
 #include <system_error>
 #include <tuple>
 #include <vector>
@@ -37,11 +40,16 @@ std::optional<Device> device_of(const fs::path& folder, const std::string& name)
     return Device{name.substr(0, digits), std::stoul(name.substr(digits)), folder / name};
 }
 
+struct Close_Folder {
+    void operator()(DIR* folder) const { closedir(folder); }
+};
+
 std::vector<std::string> names_in(const fs::path& folder) {
     std::vector<std::string> names;
-    std::error_code none;
-    for (fs::directory_iterator at(folder, none), end; !none && at != end; at.increment(none))
-        names.push_back(at->path().filename().string());
+    // An iterator over the folder would end the process where there is no memory for it.
+    const std::unique_ptr<DIR, Close_Folder> open(opendir(folder.c_str()));
+    while (const dirent* const entry = open ? readdir(open.get()) : nullptr)
+        names.emplace_back(entry->d_name);
     return names;
 }
 
@@ -65,9 +73,13 @@ void number(std::vector<Device> found, PX_Port_Kind kind, int first, PX_Port_Dev
 
 std::vector<Device> printers_in(const fs::path& folder) {
     std::vector<Device> printers;
-    for (const std::string& name : names_in(folder))
+    for (const std::string& name : names_in(folder)) {
+        // Before all the other devices are looked at.
+        if (!name.starts_with("lp"))
+            continue;
         if (std::optional<Device> device = device_of(folder, name); device && device->stem == "lp")
             printers.push_back(std::move(*device));
+    }
     return printers;
 }
 }  // namespace

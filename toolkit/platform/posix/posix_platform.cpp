@@ -12,7 +12,8 @@
 #include <vector>
 
 #include "toolkit/platform/back_end.h"
-#include "toolkit/platform/posix/posix_files.h"
+#include "toolkit/platform/posix/file_handles.h"
+#include "toolkit/platform/posix/last_error.h"
 #include "toolkit/platform/posix/text_module.h"
 #include "toolkit/platform/utf8.h"
 
@@ -90,35 +91,32 @@ PX_Platform& px_native_platform() {
 PX_Posix_Platform::PX_Posix_Platform(int answers_fd, int questions_fd)
     : m_answers_fd(answers_fd),
       m_questions_fd(questions_fd),
-      m_files(std::make_unique<PX_Posix_Files>([this](std::wstring text) { keep_error(std::move(text)); })) {
+      m_last_error(std::make_unique<PX_Last_Error>()),
+      m_files(std::make_unique<PX_File_Handles>(*m_last_error)) {
 }
 
 PX_Posix_Platform::~PX_Posix_Platform() = default;
 
-void PX_Posix_Platform::keep_error(std::wstring text) {
-    const std::lock_guard lock(m_error_lock);
-    m_last_error = std::move(text);
-}
-
 const wchar_t* PX_Posix_Platform::last_error() const {
     // Not a string: its destructor would hold the module in the process until the thread ends.
     thread_local wchar_t text[256];
-    const std::lock_guard lock(m_error_lock);
-    px_copy_cut(m_last_error, text, std::size(text));
+    m_last_error->copy_to(text, std::size(text));
     return text;
 }
 
 HMODULE PX_Posix_Platform::LoadLibraryExW(const wchar_t* name, HANDLE, DWORD) {
     if (!name)
         return nullptr;
-    for (const fs::path& path : candidates(px_to_utf8(name))) {
-        std::error_code none;
-        if (!fs::is_regular_file(path, none))
-            continue;
-        if (void* const module = dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL))
-            return module;
-    }
-    return nullptr;
+    return m_last_error->attempt(name, [&]() -> HMODULE {
+        for (const fs::path& path : candidates(px_to_utf8(name))) {
+            std::error_code none;
+            if (!fs::is_regular_file(path, none))
+                continue;
+            if (void* const module = dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL))
+                return module;
+        }
+        return nullptr;
+    });
 }
 
 HMODULE PX_Posix_Platform::LoadLibraryW(const wchar_t* name) {
@@ -134,19 +132,17 @@ BOOL PX_Posix_Platform::FreeLibrary(HMODULE module) {
 }
 
 DWORD PX_Posix_Platform::GetModuleFileNameW(HMODULE module, wchar_t* path, DWORD size) {
-    fs::path found;
-    if (!module) {
-        found = program_path();
-    } else if (link_map* map = nullptr; dlinfo(module, RTLD_DI_LINKMAP, &map) == 0) {
-        found = map->l_name;
-    }
-    try {
+    return m_last_error->attempt([&] {
+        fs::path found;
+        if (!module) {
+            found = program_path();
+        } else if (link_map* map = nullptr; dlinfo(module, RTLD_DI_LINKMAP, &map) == 0) {
+            found = map->l_name;
+        }
         // Not wstring(): that one goes by the locale of the host.
         const std::u32string characters = found.u32string();
         return px_give_path(std::wstring(characters.begin(), characters.end()), path, size);
-    } catch (const std::system_error&) {
-        return 0;
-    }
+    });
 }
 
 int PX_Posix_Platform::LoadStringW(HMODULE module, UINT id, wchar_t* text, int size) {
@@ -175,6 +171,14 @@ int PX_Posix_Platform::_wfopen_s(std::FILE** stream, const wchar_t* name, const 
     *stream = nullptr;
     if (!name || !mode)
         return EINVAL;
-    *stream = std::fopen(px_to_utf8(name).c_str(), px_to_utf8(mode).c_str());
-    return *stream ? 0 : errno;
+    int error = ENOMEM;
+    m_last_error->attempt(name, [&] {
+        *stream = std::fopen(px_to_utf8(name).c_str(), px_to_utf8(mode).c_str());
+        error = *stream ? 0 : errno;
+    });
+    return error;
+}
+
+DWORD PX_Posix_Platform::WNetGetConnectionW(const wchar_t*, wchar_t*, DWORD*) {
+    return ERROR_BAD_DEVICE;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <memory>
 #include <mutex>
 #include <string>
@@ -7,10 +8,15 @@
 
 #include "toolkit/platform/platform.h"
 
-class PX_Posix_Files;
+class PX_File_Handles;
+class PX_Last_Error;
+struct PX_Print_Queue;
 struct PX_Print_Server;
 
 // A machine with dlopen, UTF-8 and a terminal.
+//
+// No exception leaves an operation: one that has no memory fails, and a box that cannot be asked is answered
+// as where nobody can be.
 //
 // Modules: the ending ".dll" stands for ".so". A relative name is looked for in the folder of the running
 // program, in ../<library folder>/marvcon from there, in the folder of the toolkit's own library and in
@@ -28,8 +34,8 @@ struct PX_Print_Server;
 // Printers: the queues of the machine's print server, which CUPS chooses; their jobs are raw. Every question
 // is bounded in time, except for looking up the name of a server: a second for a list, three for a printer or
 // the cancelling of a job, ten for a job to be made, for any 64 kB of it to be taken and for its end to be
-// confirmed. A queue that wants a password refuses; from the first use of a printer on, libcups asks for none
-// on that thread.
+// confirmed. A server that was too late with a list is not asked for one again for five seconds. A queue that
+// wants a password refuses; from the first use of a printer on, libcups asks for none on that thread.
 class PX_EXPORT PX_Posix_Platform : public PX_Platform {
 public:
     // The descriptors stay the caller's.
@@ -39,14 +45,16 @@ public:
 
     // Has the port of this name use the device from its next opening on, whether the machine has the port or
     // not: a pseudo terminal, or a path that stays with one adapter. A null or empty device takes that back.
-    // False for a name that is not COM or LPT and a number.
+    // False for a name that is not COM or LPT and a number, and without memory.
     bool map_port(const wchar_t* name, const char* device);
 
-    // For printers that are opened from now on; null and 0 for what CUPS chooses.
-    void use_print_server(const char* host, int port);
+    // For lists and printers from now on; null and 0 for what CUPS chooses. False without memory, and then
+    // the server stays.
+    bool use_print_server(const char* host, int port);
 
-    // What the last operation that failed had to say, such as "COM1: Device or resource busy"; empty before
-    // the first. The text, cut at 255 characters, is good until the calling thread asks again.
+    // What the last operation that failed had to say, such as "COM1: Device or resource busy", or "No
+    // memory"; empty before the first. The text, cut at 255 characters, is good until the calling thread asks
+    // again.
     const wchar_t* last_error() const;
 
     // `file` and `flags` are not used.
@@ -136,19 +144,17 @@ public:
 private:
     struct Printer;
 
-    void keep_error(std::wstring text);
-    template <class Operation>
-    auto attempt(Operation operation) -> decltype(operation());
     std::shared_ptr<Printer> printer_of(HANDLE handle);
     PX_Print_Server print_server();
+    std::vector<PX_Print_Queue> print_queues();
 
     int m_answers_fd;
     int m_questions_fd;
-    mutable std::mutex m_error_lock;
-    std::wstring m_last_error;
-    std::unique_ptr<PX_Posix_Files> m_files;
+    std::unique_ptr<PX_Last_Error> m_last_error;
+    std::unique_ptr<PX_File_Handles> m_files;
     std::mutex m_printers_lock;
     std::string m_print_host;
     int m_print_port = 0;
+    std::chrono::steady_clock::time_point m_no_list_before{};
     std::vector<std::shared_ptr<Printer>> m_printers;
 };

@@ -14,6 +14,11 @@ public:
     using std::runtime_error::runtime_error;
 };
 
+class PX_Print_Time_Out : public PX_Print_Error {
+public:
+    PX_Print_Time_Out() : PX_Print_Error("The print server does not answer.") {}
+};
+
 // An empty host and port 0: the ones that the machine is set up for.
 struct PX_Print_Server {
     std::string host;
@@ -46,7 +51,7 @@ public:
     virtual void cancel() = 0;
 };
 
-// Within a second, come what may.
+// Within a second, come what may; a PX_Print_Time_Out where that is over.
 std::vector<PX_Print_Queue> px_print_queues(const PX_Print_Server& server);
 
 // Fails for a queue that the server does not know.

@@ -42,6 +42,8 @@ public:
         const int port = server.port > 0 ? server.port : ippPort();
         m_http.reset(httpConnect2(host.c_str(), port, nullptr, AF_UNSPEC, cupsEncryption(), 1,
                                   static_cast<int>(limit.count()), nullptr));
+        if (!m_http && is_late())
+            throw PX_Print_Time_Out();
         if (!m_http)
             throw PX_Print_Error("The print server " + host + " is not there.");
         httpSetTimeout(m_http.get(), 0.05, goes_on, this);
@@ -60,20 +62,20 @@ public:
     Message exchange(Message request, const char* resource) {
         Message answer(cupsDoRequest(m_http.get(), request.release(), resource));
         if (!answer)
-            throw error();
+            fail();
         return answer;
     }
-    PX_Print_Error error() const {
+    // For the reason that CUPS tells.
+    [[noreturn]] void fail() const {
+        if (is_late())
+            throw PX_Print_Time_Out();
         const char* const text = cupsLastErrorString();
-        if (Clock::now() >= m_end)
-            return PX_Print_Error("The print server does not answer.");
-        return PX_Print_Error(text && *text ? text : "The print server ended the connection.");
+        throw PX_Print_Error(text && *text ? text : "The print server ended the connection.");
     }
 
 private:
-    static int goes_on(http_t*, void* self) {
-        return Clock::now() < static_cast<const Connection*>(self)->m_end;
-    }
+    bool is_late() const { return Clock::now() >= m_end; }
+    static int goes_on(http_t*, void* self) { return !static_cast<const Connection*>(self)->is_late(); }
 
     Clock::time_point m_end;
     std::unique_ptr<http_t, Close_Connection> m_http;
@@ -224,15 +226,18 @@ private:
         const Message answer = m_connection->exchange(std::move(request), path.c_str());
         ipp_attribute_t* const number = ippFindAttribute(answer.get(), "job-id", IPP_TAG_INTEGER);
         if (is_refusal(cupsLastError()) || !number)
-            throw m_connection->error();
+            m_connection->fail();
         m_number = ippGetInteger(number, 0);
     }
 
     [[noreturn]] void give_up() {
-        const PX_Print_Error error = m_connection->error();
-        m_is_broken = true;
-        abandon();
-        throw error;
+        try {
+            m_connection->fail();
+        } catch (...) {
+            m_is_broken = true;
+            abandon();
+            throw;
+        }
     }
 
     // The server would keep a job without a document for a quarter of an hour.
@@ -260,7 +265,7 @@ std::vector<PX_Print_Queue> px_print_queues(const PX_Print_Server& server) {
     const Message answer = connection.exchange(std::move(request), "/");
     // A server without queues has "not found" them.
     if (is_refusal(cupsLastError()) && cupsLastError() != IPP_STATUS_ERROR_NOT_FOUND)
-        throw connection.error();
+        connection.fail();
 
     std::vector<PX_Print_Queue> queues;
     bool in_queue = false;
@@ -283,7 +288,7 @@ void px_find_print_queue(const PX_Print_Server& server, const std::string& queue
     Connection connection(server, to_ask);
     connection.exchange(std::move(request), "/");
     if (is_refusal(cupsLastError()))
-        throw connection.error();
+        connection.fail();
 }
 
 std::unique_ptr<PX_Print_Job> px_start_print_job(const PX_Print_Server& server, const std::string& queue,
@@ -294,5 +299,5 @@ std::unique_ptr<PX_Print_Job> px_start_print_job(const PX_Print_Server& server, 
 void px_cancel_print_job(const PX_Print_Server& server, const std::string& queue, int job) {
     Connection connection(server, to_ask);
     if (is_refusal(cupsCancelJob2(connection.get(), queue.c_str(), job, 0)))
-        throw connection.error();
+        connection.fail();
 }

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <chrono>
 #include <cstdio>
 #include <cstring>
 #include <memory>
@@ -12,8 +13,8 @@
 #include <utility>
 
 #include "toolkit/platform/back_end.h"
+#include "toolkit/platform/posix/file_handles.h"
 #include "toolkit/platform/posix/port_names.h"
-#include "toolkit/platform/posix/posix_files.h"
 #include "toolkit/platform/posix/posix_platform.h"
 #include "toolkit/platform/posix/print_server.h"
 #include "toolkit/platform/posix/terminal.h"
@@ -74,21 +75,14 @@ std::size_t number_in(const std::string& answer, std::size_t most) {
 }
 }  // namespace
 
-void PX_Posix_Platform::use_print_server(const char* host, int port) {
-    const std::lock_guard lock(m_printers_lock);
-    m_print_host = host ? host : "";
-    m_print_port = port;
-}
-
-// What goes wrong within is kept, and is a result of 0.
-template <class Operation>
-auto PX_Posix_Platform::attempt(Operation operation) -> decltype(operation()) {
-    try {
-        return operation();
-    } catch (const std::exception& caught) {
-        keep_error(px_from_utf8(caught.what()));
-        return 0;
-    }
+bool PX_Posix_Platform::use_print_server(const char* host, int port) {
+    return m_last_error->attempt([&] {
+        const std::lock_guard lock(m_printers_lock);
+        m_print_host = host ? host : "";
+        m_print_port = port;
+        m_no_list_before = {};
+        return true;
+    });
 }
 
 // Any handle may be asked for; only those of open printers are looked into.
@@ -105,14 +99,35 @@ PX_Print_Server PX_Posix_Platform::print_server() {
     return {m_print_host, m_print_port};
 }
 
+// Discovery asks for the printers once for every port: one that falls silent is waited for once.
+std::vector<PX_Print_Queue> PX_Posix_Platform::print_queues() {
+    constexpr std::chrono::seconds rest{5};
+    const PX_Print_Server server = print_server();
+    {
+        const std::lock_guard lock(m_printers_lock);
+        if (std::chrono::steady_clock::now() < m_no_list_before)
+            throw PX_Print_Time_Out();
+    }
+    try {
+        return px_print_queues(server);
+    } catch (const PX_Print_Time_Out&) {
+        const std::lock_guard lock(m_printers_lock);
+        if (server.host == m_print_host && server.port == m_print_port)
+            m_no_list_before = std::chrono::steady_clock::now() + rest;
+        throw;
+    }
+}
+
 BOOL PX_Posix_Platform::EnumPrintersW(DWORD flags, wchar_t*, DWORD level, BYTE* records, DWORD size,
                                       DWORD* needed, DWORD* count) {
     PX_Record_Buffer<PRINTER_INFO_2W> printers;
-    const BOOL listed = attempt([&]() -> BOOL {
+    // A failure gives none.
+    printers.give(nullptr, 0, needed, count);
+    return m_last_error->attempt([&]() -> BOOL {
         if (level != 2)
             throw PX_Print_Error("Printers are told at level 2 only.");
         const PX_Port_Devices ports = m_files->ports();
-        for (const PX_Print_Queue& queue : px_print_queues(print_server())) {
+        for (const PX_Print_Queue& queue : print_queues()) {
             if (!(flags & (queue.is_remote ? PRINTER_ENUM_CONNECTIONS : PRINTER_ENUM_LOCAL)))
                 continue;
             PRINTER_INFO_2W& printer = printers.add({});
@@ -130,35 +145,35 @@ BOOL PX_Posix_Platform::EnumPrintersW(DWORD flags, wchar_t*, DWORD level, BYTE* 
             printers.set_text(&PRINTER_INFO_2W::pComment, px_from_utf8(queue.description));
             printers.set_text(&PRINTER_INFO_2W::pLocation, px_from_utf8(queue.location));
         }
-        return 1;
+        return printers.give(records, size, needed, count);
     });
-    return printers.give(records, listed ? size : 0, needed, count) && listed;
 }
 
 BOOL PX_Posix_Platform::EnumPrinterDriversW(wchar_t*, wchar_t*, DWORD level, BYTE* records, DWORD size,
                                             DWORD* needed, DWORD* count) {
     PX_Record_Buffer<DRIVER_INFO_3W> drivers;
-    const BOOL listed = attempt([&]() -> BOOL {
+    // A failure gives none.
+    drivers.give(nullptr, 0, needed, count);
+    return m_last_error->attempt([&]() -> BOOL {
         if (level != 3)
             throw PX_Print_Error("Printer drivers are told at level 3 only.");
         std::set<std::string> models;
-        for (const PX_Print_Queue& queue : px_print_queues(print_server()))
+        for (const PX_Print_Queue& queue : print_queues())
             if (!queue.make_and_model.empty())
                 models.insert(queue.make_and_model);
         for (const std::string& model : models) {
             drivers.add({}).cVersion = 3;
             drivers.set_text(&DRIVER_INFO_3W::pName, px_from_utf8(model));
         }
-        return 1;
+        return drivers.give(records, size, needed, count);
     });
-    return drivers.give(records, listed ? size : 0, needed, count) && listed;
 }
 
 BOOL PX_Posix_Platform::OpenPrinterW(wchar_t* name, HANDLE* printer, PRINTER_DEFAULTSW*) {
     if (!printer)
         return 0;
     *printer = nullptr;
-    return attempt([&]() -> BOOL {
+    return m_last_error->attempt([&]() -> BOOL {
         auto [server, queue] = target_of(name ? name : L"", print_server());
         if (queue.empty())
             throw PX_Print_Error("A printer has a name.");
@@ -174,8 +189,8 @@ HANDLE PX_Posix_Platform::ConnectToPrinterDlg(HWND, DWORD) {
     if (!isatty(m_questions_fd) || !isatty(m_answers_fd))
         return nullptr;
     HANDLE printer = nullptr;
-    attempt([&]() -> BOOL {
-        const std::vector<PX_Print_Queue> queues = px_print_queues(print_server());
+    m_last_error->attempt([&]() -> BOOL {
+        const std::vector<PX_Print_Queue> queues = print_queues();
         std::string question;
         for (std::size_t number = 1; number <= queues.size(); ++number) {
             const PX_Print_Queue& queue = queues[number - 1];
@@ -200,7 +215,7 @@ HANDLE PX_Posix_Platform::ConnectToPrinterDlg(HWND, DWORD) {
 }
 
 BOOL PX_Posix_Platform::ClosePrinter(HANDLE handle) {
-    return attempt([&]() -> BOOL {
+    return m_last_error->attempt([&]() -> BOOL {
         std::unique_ptr<PX_Print_Job> job = std::move(printer_of(handle)->job);
         {
             const std::lock_guard lock(m_printers_lock);
@@ -213,7 +228,7 @@ BOOL PX_Posix_Platform::ClosePrinter(HANDLE handle) {
 }
 
 DWORD PX_Posix_Platform::StartDocPrinterW(HANDLE handle, DWORD level, BYTE* info) {
-    return attempt([&]() -> DWORD {
+    return m_last_error->attempt([&]() -> DWORD {
         const std::shared_ptr<Printer> printer = printer_of(handle);
         if (!info || (level != 1 && level != 2))
             throw PX_Print_Error(printer->queue + ": a document is told at level 1 or 2.");
@@ -231,7 +246,7 @@ DWORD PX_Posix_Platform::StartDocPrinterW(HANDLE handle, DWORD level, BYTE* info
 }
 
 BOOL PX_Posix_Platform::StartPagePrinter(HANDLE handle) {
-    return attempt([&]() -> BOOL {
+    return m_last_error->attempt([&]() -> BOOL {
         const std::shared_ptr<Printer> printer = printer_of(handle);
         printer->open_job();
         printer->is_in_page = true;
@@ -242,7 +257,7 @@ BOOL PX_Posix_Platform::StartPagePrinter(HANDLE handle) {
 BOOL PX_Posix_Platform::WritePrinter(HANDLE handle, void* bytes, DWORD size, DWORD* written) {
     if (written)
         *written = 0;
-    return attempt([&]() -> BOOL {
+    return m_last_error->attempt([&]() -> BOOL {
         if (!written || (!bytes && size > 0))
             throw PX_Print_Error("There is nothing to write, or nowhere to count it.");
         printer_of(handle)->open_job().write(static_cast<const char*>(bytes), size);
@@ -254,12 +269,12 @@ BOOL PX_Posix_Platform::WritePrinter(HANDLE handle, void* bytes, DWORD size, DWO
 BOOL PX_Posix_Platform::ReadPrinter(HANDLE, void*, DWORD, DWORD* read) {
     if (read)
         *read = 0;
-    keep_error(L"A queue tells nothing of what the printer answers.");
+    m_last_error->keep(L"A queue tells nothing of what the printer answers.");
     return 0;
 }
 
 BOOL PX_Posix_Platform::EndPagePrinter(HANDLE handle) {
-    return attempt([&]() -> BOOL {
+    return m_last_error->attempt([&]() -> BOOL {
         const std::shared_ptr<Printer> printer = printer_of(handle);
         if (!std::exchange(printer->is_in_page, false))
             throw PX_Print_Error(printer->queue + ": no page is open.");
@@ -268,7 +283,7 @@ BOOL PX_Posix_Platform::EndPagePrinter(HANDLE handle) {
 }
 
 BOOL PX_Posix_Platform::EndDocPrinter(HANDLE handle) {
-    return attempt([&]() -> BOOL {
+    return m_last_error->attempt([&]() -> BOOL {
         const std::shared_ptr<Printer> printer = printer_of(handle);
         printer->open_job();
         // The document is over, however it ends.
@@ -278,7 +293,7 @@ BOOL PX_Posix_Platform::EndDocPrinter(HANDLE handle) {
 }
 
 BOOL PX_Posix_Platform::SetJobW(HANDLE handle, DWORD job, DWORD level, BYTE*, DWORD command) {
-    return attempt([&]() -> BOOL {
+    return m_last_error->attempt([&]() -> BOOL {
         const std::shared_ptr<Printer> printer = printer_of(handle);
         if (level != 0 || command != JOB_CONTROL_CANCEL)
             throw PX_Print_Error(printer->queue + ": a job can be cancelled, nothing else.");
@@ -303,8 +318,4 @@ BOOL PX_Posix_Platform::GetVersionExW(OSVERSIONINFOW* version) {
         std::sscanf(kernel.release, "%u.%u.%u", &version->dwMajorVersion, &version->dwMinorVersion,
                     &version->dwBuildNumber);
     return 1;
-}
-
-DWORD PX_Posix_Platform::WNetGetConnectionW(const wchar_t*, wchar_t*, DWORD*) {
-    return ERROR_BAD_DEVICE;
 }

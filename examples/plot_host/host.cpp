@@ -2,6 +2,7 @@
 
 #include <cerrno>
 #include <fstream>
+#include <functional>
 #include <new>
 #include <optional>
 #include <stdexcept>
@@ -11,7 +12,6 @@
 #include "examples/common/text.h"
 #include "examples/plot_host/arguments.h"
 #include "examples/plot_host/configuration.h"
-#include "examples/plot_host/custom_items.h"
 #include "examples/plot_host/destination.h"
 #include "examples/plot_host/host_error_handler.h"
 #include "examples/plot_host/host_platform.h"
@@ -84,13 +84,11 @@ void print_heading(std::ostream& out, const PX_Plotter_Definition& device,
         << (arguments.fixed_settables ? "put to their defaults" : "validated") << "\n\n";
 }
 
-// Brings the configuration of the device in line, and tells what that changed.
-template <class Fit>
-PX_Change_Report run_over(PX_Plotter_Definition& device, const PX_Validation_Order& order, Fit fit) {
-    const PX_Configuration_Snapshot before(*device.get_plotter_configuration());
-    fit();
-    device.get_plotter_validator()->validate_all(order.strategy, order.policy, order.validate_settable);
-    return {before, device, order};
+// Also the report: it is what the user reads first.
+void finish(std::ostream& out) {
+    out.flush();
+    if (!out)
+        throw std::runtime_error("the report cannot be written");
 }
 
 void reconcile(const Arguments& arguments, PX_Plotter_Definition& device, std::ostream& out) {
@@ -110,16 +108,20 @@ void reconcile(const Arguments& arguments, PX_Plotter_Definition& device, std::o
         choose_destination(device, *arguments.to);
 
     const PX_Validation_Order order = {arguments.strategy, arguments.policy, !arguments.fixed_settables};
-    const auto fit = [&] {
-        if (made_on)
-            fit_custom_items(device);
-    };
+    std::function<void()> fit;
+    if (made_on)
+        fit = [&device] { px_fit_custom_items(device); };
     const Sheet sheet_before =
         take_sheet(*configuration, "Before: " + shown(made_on ? *made_on : identity_of(device)));
     const PX_Change_Report report =
-        arguments.dry_run ? px_dry_run(device, *configuration, order, fit) : run_over(device, order, fit);
+        arguments.dry_run ? px_dry_run(device, *configuration, order, fit)
+                          : px_run(device, PX_Configuration_Snapshot(*configuration), order, fit);
     print_heading(out, device, made_on, arguments);
     px_print_changes(out, report);
+    if (report.get_failure()) {
+        finish(out);
+        throw PX_Exception(*report.get_failure());
+    }
     print_unchosen(out, device);
     for (const Pick_List list : arguments.lists) {
         out << '\n';
@@ -134,13 +136,6 @@ void reconcile(const Arguments& arguments, PX_Plotter_Definition& device, std::o
                     take_sheet(*configuration, "After: " + shown(identity_of(device))));
     if (!arguments.save.empty())
         save_choice(arguments.save, identity_of(device), *configuration);
-}
-
-// Also the report: it is what the user reads first.
-void finish(std::ostream& out) {
-    out.flush();
-    if (!out)
-        throw std::runtime_error("the report cannot be written");
 }
 
 Exit_Code plot(const Arguments& arguments, const Drawing& drawing, const Session& session) {

@@ -134,7 +134,7 @@ TEST_F(Plot_Host, BadInputGetsOneClearLineAndCode2) {
     }
 }
 
-TEST_F(Plot_Host, ToolkitFailureGetsItsTextItsTraceAndCode1) {
+TEST_F(Plot_Host, ToolkitFailureTellsWhatCameBeforeItsTextItsTraceAndCode1) {
     struct : Ppd_Driver {
         PX_Smart_Pointer<PX_Plotter_Definition> open(
             const std::filesystem::path& file, PX_Smart_Pointer<PX_Error_Handler> handler) const override {
@@ -144,11 +144,19 @@ TEST_F(Plot_Host, ToolkitFailureGetsItsTextItsTraceAndCode1) {
             return device;
         }
     } bad_device;
-    const Outcome outcome = run_host({"--device", sample, "--log", path("log")}, bad_device);
-    EXPECT_EQ(outcome.code, 1);
-    for (const std::string& told : {outcome.err, content_of(path("log"))})
-        expect_in(told, {"describes one of its abilities by a value that does not exist",
-                         "PX_Std_Plotter_Validator::validate_all"});
+    std::vector<std::string> arguments = {"--device", sample,          "--choice", office_choice,
+                                          "--save",   path("to.json"), "--log",    path("log")};
+    for (int dry_run = 0; dry_run < 2; ++dry_run) {
+        const Outcome outcome = run_host(arguments, bad_device);
+        EXPECT_EQ(outcome.code, 1);
+        expect_in(outcome.out, {"was \"Plain\"", "The run failed with error 1001: what it did not reach"});
+        for (const std::string& told : {outcome.err, content_of(path("log"))})
+            expect_in(told, {"describes one of its abilities by a value that does not exist",
+                             "PX_Std_Plotter_Validator::validate_all"});
+        EXPECT_FALSE(std::filesystem::exists(path("to.json")));
+        std::filesystem::remove(path("log"));
+        arguments.emplace_back("--dry-run");
+    }
 }
 
 // The device has a begin and an end string of its own, but no language to enter.

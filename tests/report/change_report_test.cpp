@@ -42,6 +42,17 @@ template <class Bench>
 void use_standard(Bench&) {
 }
 
+std::string table_of(const PX_Change_Report& report) {
+    std::ostringstream out;
+    px_print_changes(out, report);
+    return out.str();
+}
+
+// The outcome, with an exclamation mark where a bit is raised, and a tilde where none tells of the change.
+std::string told(const PX_Datum_Change& row) {
+    return px_word_of_outcome(row) + (row.is_raised ? "!" : row.is_silent() ? "~" : "");
+}
+
 // What becomes of each datum of a domain that its device does not have: when its ability is fixed, and when
 // it is validated, under the one and the other strategy. Data that change beside it follow with a plus sign.
 template <class Domain, class Bench>
@@ -69,12 +80,12 @@ std::string outcomes(Mask::Enum mask, const std::vector<Row<Bench>>& rows) {
 
             const auto report = report_of(*bench.get(), {strategy, Policy::Keep_Conditional, true});
             const PX_Datum_Change* const change = report.find({mask, row.datum});
-            line += change ? ", " + px_word_of_outcome(*change) : ", missing";
+            line += change ? ", " + told(*change) : ", missing";
             for (const PX_Datum_Change& other : report.get_rows()) {
                 if (&other == change)
                     continue;
                 if (other.is_changed())
-                    line += " +" + std::to_string(other.datum.number) + ' ' + px_word_of_outcome(other);
+                    line += " +" + std::to_string(other.datum.number) + ' ' + told(other);
             }
         }
         all += line + '\n';
@@ -84,66 +95,66 @@ std::string outcomes(Mask::Enum mask, const std::vector<Row<Bench>>& rows) {
 
 TEST(Change_Report, TellsHowEachMediaDatumChanged) {
     EXPECT_EQ(outcomes<PX_Media_Domain>(Mask::Media, media_rows()),
-              "0, reset, default, default\n"
-              "1, reset, default, nearest 1\n"
-              "2, reset, default, nearest\n"
-              "3, reset, default, nearest 1\n"
-              "4, reset +8 reset +12 along, default +12 along, nearest 4.761905\n"
-              "5, reset +13 reset +14 reset +15 reset +16 reset, default +13 default +14 default +15 default "
-              "+16 default, nearest 0\n"
-              "6, reset, default, nearest\n"
-              "7, reset, default, default\n"
-              "8, reset +4 reset +12 along, own rule, own rule\n"
-              "9, reset, default, default\n"
-              "10, reset, default, default\n"
-              "11, reset, default, default\n"
-              "12, reset, own rule, own rule\n");
+              "0, reset~, default!, default!\n"
+              "1, reset~, default!, nearest 1!\n"
+              "2, reset~, default!, nearest!\n"
+              "3, reset~, default!, nearest 1!\n"
+              "4, reset~ +8 reset~ +12 along~, default! +12 along~, nearest 4.761905!\n"
+              "5, reset~ +13 reset~ +14 reset~ +15 reset~ +16 reset~, "
+              "default! +13 default! +14 default! +15 default! +16 default!, nearest 0!\n"
+              "6, reset~, default!, nearest!\n"
+              "7, reset~, default!, default!\n"
+              "8, reset~ +4 reset~ +12 along~, own rule!, own rule!\n"
+              "9, reset~, default!, default!\n"
+              "10, reset~, default!, default!\n"
+              "11, reset~, default!, default!\n"
+              "12, reset~, own rule!, own rule!\n");
 }
 
 // The default of the number is written for a device that keeps a list, which this one does not.
 TEST(Change_Report, TellsHowEachPenDatumChanged) {
     EXPECT_EQ(outcomes<PX_Pen_Domain>(Mask::Phys_Pens, pen_rows()),
-              "0, kept, kept, nearest 1\n"
-              "1, reset, own rule, own rule\n"
-              "4, reset, default, default\n"
-              "2, reset, default, default\n"
-              "3, reset, default, default\n");
+              "0, kept, kept!, nearest 1!\n"
+              "1, reset~, own rule!, own rule!\n"
+              "4, reset~, default!, default!\n"
+              "2, reset~, default!, default!\n"
+              "3, reset~, default!, default!\n");
 }
 
 // The default mode and resolution are none that the abilities of the bench let be written; its two limits are
 // spoiled and cured together.
 TEST(Change_Report, TellsHowEachDatumOfResolutionColourAndMemoryChanged) {
     EXPECT_EQ(outcomes<PX_RCM_Domain>(Mask::Res_Color_Mem, color_rows()),
-              "0, kept, kept, nearest 100.1\n"
-              "1, kept, kept, nearest 0.5\n"
-              "7, kept, own rule, own rule\n"
-              "11, reset, kept, kept\n"
+              "0, kept, kept!, nearest 100.1!\n"
+              "1, kept, kept!, nearest 0.5!\n"
+              "7, kept, own rule!, own rule!\n"
+              "11, reset~, kept, kept\n"
               "8, kept, kept, kept\n"
-              "9, reset, default, nearest\n"
-              "10, reset, default, default\n"
-              "5, reset +6 along, default +6 along, default +6 along\n"
-              "6, reset +5 along, default +5 along, default +5 along\n"
-              "2, reset, default, default\n"
-              "3, reset, default, default\n"
-              "4, reset, default, default\n");
+              "9, reset~, default!, nearest!\n"
+              "10, reset~, default!, default!\n"
+              "5, reset~ +6 along~, default! +6 along~, default! +6 along~\n"
+              "6, reset~ +5 along~, default! +5 along~, default! +5 along~\n"
+              "2, reset~, default!, default!\n"
+              "3, reset~, default!, default!\n"
+              "4, reset~, default!, default!\n");
 }
 
 TEST(Change_Report, TellsHowEachDeviceStringChanged) {
     EXPECT_EQ(outcomes<PX_InitTerm_Domain>(Mask::Init_Term, string_rows()),
-              "0, reset, kept, kept\n"
-              "1, reset, kept, kept\n"
-              "2, reset, kept, kept\n");
+              "0, reset~, kept, kept\n"
+              "1, reset~, kept, kept\n"
+              "2, reset~, kept, kept\n");
 }
 
 TEST(Change_Report, TellsHowEachOutputDatumChanged) {
     EXPECT_EQ(outcomes<PX_IO_Domain>(Mask::IO, output_rows()),
-              "1, reset, default, nearest\n"
-              "2, reset, default, nearest\n"
-              "3, reset, default, nearest\n"
-              "4, reset, default, default\n"
-              "5, reset, default, nearest\n"
-              "6, reset, default, nearest\n"
-              "7, reset, default, default\n");
+              "1, reset~, default!, nearest!\n"
+              "2, reset~, default!, nearest!\n"
+              "3, reset~, default!, nearest!\n"
+              "4, reset~, default!, default!\n"
+              "5, reset~, default!, nearest!\n"
+              "6, reset~, default!, nearest!\n"
+              "7, reset~, default!, default!\n");
 }
 
 // A change of one value, by its setter or in what was kept of the chosen entry.
@@ -302,6 +313,10 @@ TEST(Change_Report, TellsScoresAsTheyAreCounted) {
     // weight.
     EXPECT_EQ(score_of(media, Mask::Media, 4),
               10.0 + double{100.0F / 210.0F * 10.0F} + double{100.0F / 200.0F});
+    const auto score_without = [&](const wchar_t* name) {
+        return px_media_size_score(*had(sheets), name, *sheets.a4(), *sheets.a4_sheet());
+    };
+    EXPECT_EQ(score_without(nullptr), score_without(L""));
     EXPECT_EQ(score_of(media, Mask::Media, 5), 0) << "all finishing options are there";
     const PX_Datum_Change* const bounds = media.find({Mask::Media, 12});
     EXPECT_EQ(bounds->kind, Kind::Followed);
@@ -310,28 +325,156 @@ TEST(Change_Report, TellsScoresAsTheyAreCounted) {
     RCM_Device colors;
     drop(colors.resolutions(), L"normal");
     EXPECT_EQ(score_of(report_of(*colors.get(), {}), Mask::Res_Color_Mem, 1), 0.5F) << "half of 601 - 600";
+
+    Pen_Device pens;
+    pens.pen_cfg()->set_number_of_physical_pens(20);
+    EXPECT_EQ(score_of(report_of(*pens.get(), {}), Mask::Phys_Pens, 0), 20 - 8);
 }
 
-TEST(Change_Report, TellsOfTheOutputWhatNoBitTells) {
-    // A default that the line does not have goes on to the nearest, under the strategy of the default too.
-    Connected_Device line;
-    line.cfg.set_protocol(L"gone");
-    line.serial.set_default_protocol(L"gone");
-    const PX_Validation_Order to_default = {Strategy::Use_Default, Policy::Validate_Conditional, true};
-    const auto on_line = report_of(*line.get(), to_default);
-    EXPECT_EQ(on_line.find({Mask::IO, 2})->kind, Kind::To_Nearest);
+// A row for each rule of the output, which knows data that neither go to a default nor to a nearest.
+TEST(Change_Report, TellsOfTheOutputWhereEachRuleEnds) {
+    using B = Connected_Device;
+    using A = PX_Plotter_IO_Ability_Flags;
+    const auto drop_default_protocol = [](B& b) { b.serial.set_default_protocol(L"gone"); };
+    const auto default_to_network = [](B& b) { b.caps.set_default_type(PX_IO_Type::Network); };
+    const auto drop_default_handshake = [](B& b) {
+        b.serial.set_handshakes(2);
+        b.cfg.set_handshake(4);
+    };
+    const auto spoil_protocol = [](B& b) { b.cfg.set_protocol(L"gone"); };
+    const auto stay = [](B&) {};
+    struct Case {
+        const char* name;
+        A::Enum ability;
+        Value::Enum value;
+        Value::Enum methods;
+        std::function<void(B&)> set_up;
+        int datum;
+        const char* told;
+    };
+    constexpr auto none = Value::Ability_None, fixed = Value::Ability_Fixed, all = Value::Ability_Required;
+    const Case cases[] = {
+        {"no default protocol", A::IO_Protocol, fixed, all, drop_default_protocol, 2, "nearest~"},
+        {"no default port", A::IO_Type, fixed, all, default_to_network, 1, "nearest~"},
+        {"no port at all", A::IO_Type, none, all, stay, 1, "reset~"},
+        {"no protocol at all", A::IO_Protocol, none, all, stay, 2, "reset~"},
+        {"no method for a protocol", A::IO_Protocol, fixed, none, stay, 2, "reset~"},
+        {"a default that the line lacks", A::IO_Protocol, all, all,
+         [&](B& b) {
+             drop_default_protocol(b);
+             spoil_protocol(b);
+         },
+         2, "nearest!"},
+        {"a default without a port", A::IO_Type, all, none, default_to_network, 1, "nearest!"},
+        {"a protocol without a method", A::IO_Protocol, all, none, spoil_protocol, 2, "own rule!"},
+        {"a handshake without a default", A::IO_Handshake, all, all, drop_default_handshake, 4, "own rule!"},
+        {"an input time-out without a method", A::IO_Input_Timeout, all, none, stay, 5, "own rule!"},
+        {"an output time-out without a method", A::IO_Output_Timeout, all, none, stay, 6, "own rule!"},
+    };
+    for (const Case& test : cases) {
+        Connected_Device bench;
+        if (test.methods == none) {
+            // The port stays where any of the machine's will do.
+            bench.cfg.set_all_system_ports_valid(test.datum != 1);
+            bench.caps.set_one_ability(none, A::IO_Methods);
+        }
+        bench.caps.set_one_ability(test.value, test.ability);
+        test.set_up(bench);
+        const PX_Validation_Order to_default = {Strategy::Use_Default, Policy::Validate_Conditional, true};
+        const auto report = report_of(*bench.get(), to_default);
+        EXPECT_EQ(told(*report.find({Mask::IO, test.datum})), test.told) << test.name;
+    }
+}
 
-    // A printer without a method lets all ports of the machine serve.
-    Connected_Device printer;
-    printer.machine.add_printer({.name = L"office", .port = L"LPT1"});
-    const PX_Smart_Pointer<PX_Model> model(new PX_Std_Model);
-    model->set_friendly_net_name(L"office");
-    printer.get()->get_meta_capabilities()->set_model(model.get());
-    printer.configure(PX_IO_Type::Network, L"office");
-    const auto report = report_of(*printer.get(), to_default);
-    const PX_Datum_Change* const port = report.find({Mask::IO, 1});
-    EXPECT_TRUE(port->kind == Kind::Followed && port->is_silent()) << port->after->shown;
-    EXPECT_EQ(port->after->shown, "network \"office\", all ports of the machine are valid");
+// A printer without a method lets all ports of the machine serve, which no bit tells and no flag.
+TEST(Change_Report, TellsThatAllPortsServeNow) {
+    for (const bool was_default : {false, true}) {
+        Connected_Device printer;
+        printer.machine.add_printer({.name = L"office"});
+        const PX_Smart_Pointer<PX_Model> model(new PX_Std_Model);
+        model->set_friendly_net_name(L"office");
+        printer.get()->get_meta_capabilities()->set_model(model.get());
+        printer.caps.set_default_type(PX_IO_Type::Network);
+        printer.configure(PX_IO_Type::Network, L"office");
+        if (was_default) {
+            for (const auto line :
+                 {PX_Plotter_IO_Ability_Flags::IO_Protocol, PX_Plotter_IO_Ability_Flags::IO_Baud_Rate})
+                printer.caps.set_one_ability(Value::Ability_None, line);
+            printer.get()->get_plotter_validator()->set_selected_to_defaults(Mask::IO);
+            printer.cfg.set_validated(false);
+        }
+        const auto report = report_of(*printer.get(), {});
+        const PX_Datum_Change* const port = report.find({Mask::IO, 1});
+        EXPECT_EQ(port->is_default, was_default);
+        EXPECT_EQ(told(*port), "along~");
+        EXPECT_EQ(port->after->shown, "network \"office\", all ports of the machine are valid");
+    }
+}
+
+// A driver's validator that tells nobody what it changes: it takes a default, and alters another datum.
+class Quiet_Validator : public PX_Std_Media_Validator {
+public:
+    using PX_Std_Media_Validator::PX_Std_Media_Validator;
+    void validate_dm_scale(Strategy::Enum) override {
+        set_dm_scale_to_default();
+        const auto items = m_plotter->get_plotter_configuration()->get_custom_configuration();
+        items->get_custom(L"gap")->set_config_value(of(3L).get());
+    }
+};
+struct Quiet_Factory : PX_Std_Plotter_Class_Factory {
+    PX_Media_Validator* MK_Create_Media_Validator(PX_Plotter_Definition* plotter) const override {
+        return new Quiet_Validator(plotter);
+    }
+};
+
+TEST(Change_Report, TellsWhatADriverChangesWithoutABit) {
+    Media_Device device(new Definition_With<Quiet_Factory>);
+    use_standard(device);
+    device.custom_caps()->get_custom_list()->append(setting(L"gap", of(2L), 0, 4));
+    device.validator()->set_selected_to_defaults(Mask::Custom);
+    device.custom_cfg()->set_validated(false);
+    const auto report = report_of(*device.get(), {});
+    EXPECT_EQ(told(*report.find({Mask::Media, Cfg::Cfg_Dm_Scale})), "default~");
+    const PX_Datum_Change* const gap = report.find({Mask::Custom, -1, L"gap"});
+    EXPECT_TRUE(gap->is_default && gap->is_validated);
+    EXPECT_EQ(told(*gap), "along~") << "the flag is older than the value";
+}
+
+TEST(Change_Report, GoesByTheOrder) {
+    const auto copies_of = [](Value::Enum ability, Policy::Enum policy, bool validate_settable) {
+        Media_Device device;
+        use_standard(device);
+        device.cfg->set_number_of_copies(6);
+        device.cfg->set_validated(false);
+        device.set_ability(Ability::Ability_Number_Of_Copies, ability);
+        const auto report = report_of(*device.get(), {Strategy::Use_Nearest, policy, validate_settable});
+        const PX_Datum_Change* const copies = report.find({Mask::Media, Cfg::Cfg_Number_Of_Copies});
+        return told(*copies) + (copies->is_validated ? " validated" : "");
+    };
+    const auto settable = Value::Ability_Settable, conditional = Value::Ability_Conditional;
+    EXPECT_EQ(copies_of(settable, Policy::Keep_All, true), "kept");
+    EXPECT_EQ(copies_of(settable, Policy::Keep_Conditional, true), "nearest! validated");
+    EXPECT_EQ(copies_of(settable, Policy::Keep_Conditional, false), "reset~ validated");
+    EXPECT_EQ(copies_of(conditional, Policy::Keep_Conditional, true), "kept");
+    EXPECT_EQ(copies_of(conditional, Policy::Validate_Conditional, true), "nearest! validated");
+    EXPECT_EQ(copies_of(conditional, Policy::Reset_Conditional, true), "reset~ validated");
+}
+
+TEST(Change_Report, TellsTheAbilityOfADatumAndThatWhichARunReads) {
+    Media_Device device;
+    use_standard(device);
+    device.set_ability(Ability::Ability_Media_Destination, Value::Ability_Fixed);
+    // Without a default of the margins the actual printable bounds have none.
+    device.set_ability(Ability::Ability_Actual_Printable_Bounds, Value::Ability_Fixed);
+    device.set_ability(Ability::Ability_Media_Margins_Default, Value::Ability_None);
+    withdraw(device.a4());
+    const auto report = report_of(*device.get(), {});
+    const PX_Datum_Change* const collating = report.find({Mask::Media, Cfg::Cfg_Media_Collating});
+    EXPECT_EQ(told(*collating), "reset~");
+    EXPECT_EQ(collating->ability, Value::Ability_Settable_Listed);
+    EXPECT_EQ(collating->ability_number, Ability::Ability_Media_Collating);
+    EXPECT_EQ(collating->gate, Value::Ability_Fixed);
+    EXPECT_EQ(told(*report.find({Mask::Media, Cfg::Cfg_Actual_Printable_Bounds})), "along~");
 }
 
 TEST(Change_Report, TellsWhatBecameOfTheItems) {
@@ -360,15 +503,79 @@ TEST(Change_Report, TellsWhatBecameOfTheItems) {
     EXPECT_EQ(report.get_config_changed(), Mask::Custom);
 
     // The empty list of a device without pens goes, which no bit tells.
-    std::ostringstream out;
-    px_print_changes(out, report);
+    const std::string table = table_of(report);
     EXPECT_NE(
-        out.str().find("\n\"Gap in mm\" (gap)        custom   default  raised  yes        yes      was 5\n"),
+        table.find("\n\"Gap in mm\" (gap)        custom   default  raised  yes        yes      was 5\n"),
         std::string::npos)
-        << out.str();
-    EXPECT_NE(out.str().find("2 of 46 data changed, 1 of them without a change bit; 1 new; 1 gone."),
+        << table;
+    EXPECT_NE(table.find("2 of 46 data changed, 1 of them without a change bit; 1 new; 1 gone."),
               std::string::npos)
-        << out.str();
+        << table;
+}
+
+// A run finds the first of two by their name, and leaves the other.
+TEST(Change_Report, TellsItemsOfOneNameApart) {
+    const Device device;
+    device.custom_caps()->get_custom_list()->append(setting(L"gap", of(2L), 0, 4));
+    const auto items = device.custom_cfg()->get_custom_list();
+    for (const long value : {5L, 3L})
+        items->append(item(L"gap", of(value)));
+    const auto third = item(L"gap", of(9L));
+    items->append(third);
+    const PX_Configuration_Snapshot before(*device->get_plotter_configuration());
+    items->remove(third.get());
+    device.validator()->validate_all(Strategy::Use_Nearest, Policy::Keep_All, true);
+    const PX_Change_Report report(before, *device.get(), {Strategy::Use_Nearest, Policy::Keep_All, true});
+
+    std::string rows;
+    for (int place = 0; place < 3; ++place) {
+        const PX_Datum_Change* const row = report.find({Mask::Custom, -1, L"gap", place});
+        rows += row->before->shown + " > " + (row->after ? row->after->shown : "") + ' ' + told(*row) +
+                (row->is_validated ? " validated, " : ", ");
+    }
+    EXPECT_EQ(rows, "5 > 2 default! validated, 3 > 3 kept, 9 >  gone, ");
+    EXPECT_EQ(report.get_gone(), 1);
+}
+
+TEST(Change_Report, TellsOfNoSizeNearEnoughWhereItWent) {
+    for (const bool has_default : {true, false}) {
+        Media_Device device;
+        use_standard(device);
+        withdraw(device.a4());
+        had(device)->set_media_bounds(&pair);
+        had(device)->set_landscape_mode_flag(true);
+        device.set_ability(Ability::Ability_Media_Size_Default, has_default ? 4 : 0);
+        const auto report = report_of(*device.get(), {});
+        EXPECT_EQ(told(*report.find({Mask::Media, 4})), has_default ? "default!" : "kept!");
+        EXPECT_NE(
+            table_of(report).find(has_default ? "No size was near enough: the size went to its default.\n"
+                                              : "No size was near enough, and it stays as it is.\n"),
+            std::string::npos);
+    }
+}
+
+// Two blanks in the name of a pen, and the name of a form, are not shown.
+TEST(Change_Report, SaysWhereAChangedValueReadsTheSame) {
+    const Device device;
+    const auto take_pen = [&](const wchar_t* name) {
+        PX_Named_Object_List<PX_Pen> pens;
+        pens.append(named<PX_Std_Pen>(name));
+        device.pen_cfg()->set_physical_pen_list(&pens);
+    };
+    take_pen(L"a b");
+    const PX_Configuration_Snapshot before(*device->get_plotter_configuration());
+    take_pen(L"a  b");
+    had(device)->set_form_name(L"form");
+    had_color(device)->set_phys_resolution_xy(&pair);
+    const PX_Change_Report report(before, *device.get(), {});
+    for (const auto& id : {PX_Datum_Id{Mask::Phys_Pens, 1}, {Mask::Media, 4}}) {
+        const PX_Datum_Change* const row = report.find(id);
+        EXPECT_TRUE(row->is_changed() && row->before->shown == row->after->shown) << row->name;
+    }
+    EXPECT_EQ(report.find({Mask::Res_Color_Mem, 1})->after->shown,
+              "(none), 0 x 0, physical 1 x 2, addressable 0 x 0");
+    const std::string table = table_of(report), told = "now another that reads the same\n";
+    EXPECT_NE(table.find(told, table.find(told) + 1), std::string::npos) << table;
 }
 
 TEST(Change_Report, FailsForWhatIsMissing) {

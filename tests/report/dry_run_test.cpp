@@ -1,8 +1,10 @@
 #include <gtest/gtest.h>
 
 #include <new>
+#include <sstream>
 #include <stdexcept>
 #include <string>
+#include <utility>
 
 #include "tests/support/allocations.h"
 #include "tests/support/custom.h"
@@ -33,7 +35,7 @@ std::string state_of(const PX_Plotter_Configuration& choice) {
     add(choice.get_io_configuration(), PX_IO_Config_Flags::range.count);
     add(choice.get_init_term_configuration(), PX_InitTerm_Ability_Flags::range.count);
     for (const auto& item : *choice.get_custom_configuration()->get_custom_list())
-        state += show(item->get_config_value()) == L"none" ? '-' : item->get_validated() ? '2' : '0';
+        state += std::string(item->get_validated() ? "v" : "-") + (item->get_default() ? 'd' : '-');
     return state;
 }
 
@@ -84,6 +86,7 @@ public:
         custom_caps()->get_custom_list()->append(setting(L"gap", of(2L), 0, 4));
         custom_cfg()->get_custom_list()->append(item(L"gap", of(5L)));
         rcm_cfg()->set_one_validated(true, PX_ResColorMem_Config_Flags::RCM_Cfg_Lines_Overwrite);
+        rcm_cfg()->set_one_default(true, PX_ResColorMem_Config_Flags::RCM_Cfg_Lines_Overwrite);
     }
     PX_Plotter_Configuration& root() const { return *(*this)->get_plotter_configuration(); }
 };
@@ -133,25 +136,20 @@ TEST(Dry_Run, PutsBackWhateverIsThrown) {
     device->set_plotter_configuration(device.root().clone());
     const Held before(device);
     const auto dry_run = [&](const std::function<void()>& prepare = {}) {
-        px_dry_run(*device.get(), device.root(), {}, prepare);
+        return px_dry_run(*device.get(), device.root(), {}, prepare);
     };
     EXPECT_THROW(dry_run([] { throw std::runtime_error("no"); }), std::runtime_error);
     expect_same(Held(device), before);
-
-    const auto ability = PX_Media_Ability_Flags::Ability_Dm_Scale;
-    device.caps->set_one_ability(PX_Ability_Value::Ability_Undefined, ability);
-    const auto thrown = thrown_by([&] { dry_run(); });
-    EXPECT_TRUE(thrown && thrown->code == 1001);
-    expect_same(Held(device), before);
-    device.caps->set_one_ability(PX_Ability_Value::Ability_Settable, ability);
 
     int failures = 0;
     for (int successes = 0;; successes += 1 + successes / 8) {
         SCOPED_TRACE(testing::Message() << "after " << successes << " allocations");
         try {
             const Out_Of_Memory none(successes);
-            dry_run();
-            break;
+            const PX_Change_Report report = dry_run();
+            if (!report.get_failure())
+                break;
+            ++failures;
         } catch (const PX_Exception&) {
             ++failures;
         } catch (const std::bad_alloc&) {
@@ -164,24 +162,112 @@ TEST(Dry_Run, PutsBackWhateverIsThrown) {
 
 // The user looks at another device, and goes back to the old one.
 TEST(Dry_Run, KeepsTheChoiceOfAnotherDevice) {
-    const Changed_Device own, other;
-    other.custom_caps()->set_custom_list(nullptr);
-    own.validator()->set_all_to_defaults();
+    const Changed_Device own, twin, other;
+    other.custom_caps()->get_custom_list()->clear();
+    other.custom_caps()->get_custom_list()->append(setting(L"fan", of(true)));
     const std::string chosen = state_of(own.root());
-    bool is_prepared = false;
-    const PX_Change_Report report = px_dry_run(*other.get(), own.root(), {}, [&] {
-        // The items of the clone, for which the other device has no setting.
-        other.custom_cfg()->get_custom_list()->clear();
-        is_prepared = true;
-    });
-    EXPECT_TRUE(is_prepared);
+    const PX_Change_Report report =
+        px_dry_run(*other.get(), own.root(), {}, [&] { px_fit_custom_items(*other.get()); });
+    EXPECT_FALSE(report.get_failure());
     EXPECT_EQ(report.get_gone(), 1);
+    EXPECT_EQ(report.get_appeared(), 1);
     EXPECT_EQ(state_of(own.root()), chosen);
-    EXPECT_EQ(own.validator()->validate_all(Strategy::Use_Nearest, PX_Validation_Policy::Validate_Conditional,
-                                            true),
-              false || own.validator()->get_caps_changed());
-    EXPECT_EQ(own.validator()->get_config_changed(), 0);
+
+    const auto run = [](const Changed_Device& device) {
+        return rows_of(px_run(*device.get(), PX_Configuration_Snapshot(device.root()), {}));
+    };
+    EXPECT_EQ(run(own), run(twin)) << "its own device makes of it what it would have";
 }
+
+TEST(Fit_Custom_Items, KeepsTheValuesOfTheSettingsThatAreThere) {
+    const Device device;
+    device.custom_caps()->get_custom_list()->append(setting(L"fan", of(true)));
+    device.custom_caps()->get_custom_list()->append(setting(L"gap", of(2L), 0, 4));
+    const auto chosen = device.custom_cfg()->get_custom_list();
+    for (const auto& [name, value] : {std::pair(L"gap", 5L), {L"old", 1L}, {L"gap", 3L}})
+        chosen->append(item(name, of(value)));
+    px_fit_custom_items(*device.get());
+    std::wstring items;
+    for (const auto& item : *device.custom_cfg()->get_custom_list())
+        items += show(*item) + L", ";
+    EXPECT_EQ(items, L"fan true vd, gap long 5 --, ");
+}
+
+// Two runs that end early: over an item that the device has no setting for, and over the feed of a source.
+TEST(Dry_Run, TellsHowFarAFailingRunCame) {
+    for (const auto& [code, detail] : {std::pair(704, L""), {1103, L"newsource"}}) {
+        const Changed_Device device;
+        if (code == 704)
+            device.custom_cfg()->get_custom_list()->append(item(L"foreign", of(1L)));
+        else
+            device.snapshot()->set_media_feed(Number{9});
+        const Held before(device);
+        const PX_Change_Report told = px_dry_run(*device.get(), device.root(), {});
+        expect_same(Held(device), before);
+        ASSERT_TRUE(told.get_failure()) << code;
+        EXPECT_EQ(told.get_failure()->m_code, static_cast<unsigned>(code));
+        EXPECT_STREQ(told.get_failure()->m_detail, detail);
+        EXPECT_GT(told.get_failure()->m_stack_depth, 0);
+
+        const auto outcome_of = [&](const PX_Datum_Id& datum) {
+            const PX_Datum_Change* const row = told.find(datum);
+            return px_word_of_outcome(*row) + (row->is_validated ? " validated" : "");
+        };
+        const bool has_sheets = code == 704;
+        EXPECT_EQ(outcome_of({PX_Domain_Mask::Media, Cfg::Cfg_Media_Type}), "nearest 1 validated");
+        EXPECT_EQ(outcome_of({PX_Domain_Mask::Media, Cfg::Cfg_Number_Of_Copies}),
+                  has_sheets ? "nearest validated" : "kept");
+        const PX_Datum_Change* const foreign = told.find({PX_Domain_Mask::Custom, -1, L"foreign"});
+        EXPECT_EQ(foreign && foreign->kind == PX_Change_Kind::Kept && !foreign->is_validated, has_sheets);
+
+        const PX_Configuration_Snapshot snapshot(device.root());
+        EXPECT_EQ(rows_of(px_run(*device.get(), snapshot, {})), rows_of(told)) << "as the run itself";
+        std::ostringstream out;
+        px_print_changes(out, told);
+        const std::string last = has_sheets ? "error 704: what" : "error 1103, \"newsource\": what";
+        EXPECT_NE(out.str().find("The run failed with " + last + " it did not reach is as it was.\n"),
+                  std::string::npos)
+            << out.str();
+    }
+}
+
+// What a host does ahead of the run is neither the run's doing nor silent, and the run is measured from
+// there.
+TEST(Dry_Run, TellsApartWhatWasPrepared) {
+    const Changed_Device device;
+    device.pen_caps()->set_abilities(PX_Ability_Value::Ability_Required);
+    device.pen_caps()->set_max_number_of_physical_pens(8);
+    const auto told = px_dry_run(*device.get(), device.root(), {}, [&] {
+        device.pen_cfg()->set_number_of_physical_pens(20);
+        device.media_cfg()->set_dm_scale(75);
+    });
+    const PX_Datum_Change* const pens =
+        told.find({PX_Domain_Mask::Phys_Pens, PX_Pen_Config_Flags::Pen_Config_Number});
+    EXPECT_EQ(px_word_of_outcome(*pens), "nearest 12");
+    EXPECT_EQ(pens->before->shown + ' ' + pens->prepared->shown + ' ' + pens->after->shown, "0 20 8");
+    const PX_Datum_Change* const scale = told.find({PX_Domain_Mask::Media, Cfg::Cfg_Dm_Scale});
+    EXPECT_EQ(px_word_of_outcome(*scale), "prepared");
+    EXPECT_TRUE(scale->is_changed() && !scale->is_silent() && !scale->prepared);
+    const auto untouched = px_dry_run(*device.get(), device.root(), {});
+    EXPECT_EQ(told.get_changed(), untouched.get_changed() + 3) << "the pens too";
+    EXPECT_EQ(told.get_silent(), untouched.get_silent());
+
+    std::ostringstream out;
+    px_print_changes(out, told);
+    const std::string table = out.str();
+    const auto at = table.find("set 20\n");
+    ASSERT_NE(at, std::string::npos) << table;
+    EXPECT_LT(table.find("was 0\n"), at);
+    EXPECT_NE(table.find("now 8\n", at), std::string::npos);
+}
+
+// A driver's roots whose clones do not come into being.
+struct No_Clone_Of_Capabilities : PX_Std_Plotter_Capabilities {
+    PX_Plotter_Capabilities* clone() const override { return nullptr; }
+};
+struct No_Clone_Of_Configuration : PX_Std_Plotter_Configuration {
+    PX_Plotter_Configuration* clone() const override { return nullptr; }
+};
 
 TEST(Dry_Run, FailsForWhatIsMissing) {
     const Changed_Device device;
@@ -189,8 +275,26 @@ TEST(Dry_Run, FailsForWhatIsMissing) {
     device->set_plotter_capabilities(nullptr);
     expect_thrown<MVNK_Error>([&] { px_dry_run(*device.get(), device.root(), {}); }, 1103, L"px_dry_run",
                               L"plotter");
-    // Where no choice was made yet, there is none afterwards.
+    device->set_plotter_capabilities(new No_Clone_Of_Capabilities);
+    expect_thrown<MVNK_Memory_Exception>([&] { px_dry_run(*device.get(), device.root(), {}); }, 1101,
+                                         L"px_dry_run", L"capabilities");
     device->set_plotter_capabilities(capabilities.get());
+    No_Clone_Of_Configuration uncloned;
+    const auto& root = device.root();
+    uncloned.set_media_configuration(root.get_media_configuration().get());
+    uncloned.set_phys_pen_configuration(root.get_phys_pen_configuration().get());
+    uncloned.set_res_color_mem_configuration(root.get_res_color_mem_configuration().get());
+    uncloned.set_io_configuration(root.get_io_configuration().get());
+    uncloned.set_init_term_configuration(root.get_init_term_configuration().get());
+    uncloned.set_custom_configuration(root.get_custom_configuration().get());
+    expect_thrown<MVNK_Memory_Exception>([&] { px_dry_run(*device.get(), uncloned, {}); }, 1101,
+                                         L"px_dry_run", L"configuration");
+    device->set_plotter_capabilities(new PX_Std_Plotter_Capabilities);
+    const auto thrown = thrown_by([&] { px_dry_run(*device.get(), device.root(), {}); });
+    ASSERT_TRUE(thrown && thrown->code == 1103);
+    EXPECT_EQ(thrown->frames.back(), L"px_dry_run");
+    device->set_plotter_capabilities(capabilities.get());
+    // Where no choice was made yet, there is none afterwards.
     const auto choice = device->get_plotter_configuration();
     device->set_plotter_configuration(nullptr);
     EXPECT_GT(px_dry_run(*device.get(), *choice, {}).get_changed(), 0);

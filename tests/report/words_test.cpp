@@ -34,6 +34,7 @@ TEST(Report_Words, ComeBack) {
     EXPECT_EQ(px_handshake_words(0), "none");
     EXPECT_EQ(px_handshake_words(0x1006), "XON/XOFF out, CTS out, bits 4096");
     EXPECT_EQ(px_domain_words(0), "none");
+    EXPECT_EQ(px_domain_words(0x102), "media; bits 256");
     EXPECT_EQ(px_domain_words(PX_Domain_Mask::Custom | PX_Domain_Mask::IO), "output; custom data");
 }
 

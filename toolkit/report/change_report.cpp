@@ -9,12 +9,24 @@ namespace {
 
 using Kind = PX_Change_Kind;
 using Action = PX_Validator_Action;
+using Strategy = PX_Validation_Strategy;
 
-bool went_to_nearest(const PX_Report_Datum& datum, const PX_Reported_Run& run,
-                     const PX_Validation_Order& order) {
+bool goes_to_nearest(const PX_Report_Datum& datum, const PX_Reported_Run& run, Strategy::Enum strategy) {
     if (datum.goes_to_nearest)
-        return datum.goes_to_nearest(order.strategy, run.capabilities);
-    return datum.repair == PX_Repair::To_Nearest && order.strategy != PX_Validation_Strategy::Use_Default;
+        return datum.goes_to_nearest(strategy, run.capabilities);
+    return datum.repair == PX_Repair::To_Nearest && strategy != Strategy::Use_Default;
+}
+
+// What the default operation has made of a datum that was not looked at.
+Kind::Enum kind_of_default(const PX_Report_Datum& datum, const PX_Report_State& state,
+                           const PX_Reported_Run& run) {
+    if (datum.keeps_at_default && datum.keeps_at_default(run.capabilities))
+        return Kind::Followed;
+    // What the device does not have at all is cleared, which marks no default either.
+    const bool is_had = state.gate != PX_Ability_Value::Ability_None;
+    return is_had && !state.is_default && goes_to_nearest(datum, run, Strategy::Use_Default)
+               ? Kind::To_Nearest
+               : Kind::Reset;
 }
 
 // How the run has come from one value to another.
@@ -24,40 +36,45 @@ Kind::Enum kind_of(const PX_Report_Datum& datum, const PX_Report_State& state, c
     const auto action = state.gate ? px_validator_action(*state.gate, order.policy, order.validate_settable)
                                    : Action::Validate;
     if (action == Action::Set_To_Default)
-        return datum.keeps_at_default && datum.keeps_at_default(run.capabilities) ? Kind::Followed
-                                                                                  : Kind::Reset;
+        return kind_of_default(datum, state, run);
     if (state.is_raised && datum.repair == PX_Repair::By_Own_Rule)
         return Kind::Put_Right;
-    // A driver's rule may take the default without a bit. Every setter takes the flag away, so that it tells
-    // of this very value.
-    if (state.is_default && (state.is_raised || action == Action::Validate))
+    // A driver's rule may take the default without a bit, which the flag tells where it belongs to this very
+    // value.
+    if (state.is_default && (state.is_raised || (action == Action::Validate && datum.flag_follows_value)))
         return Kind::To_Default;
     if (!state.is_raised)
         return Kind::Followed;
-    return went_to_nearest(datum, run, order) ? Kind::To_Nearest : Kind::To_Default;
+    return goes_to_nearest(datum, run, order.strategy) ? Kind::To_Nearest : Kind::Put_Right;
 }
 
-PX_Datum_Change row_of(const PX_Report_Datum& datum, const PX_Reported_Run& run,
-                       const PX_Validation_Order& order) {
+PX_Datum_Change row_of(const PX_Report_Datum& datum, const PX_Configuration_Snapshot& before,
+                       const PX_Reported_Run& run, const PX_Validation_Order& order) {
     PX_Datum_Change row;
     row.datum = datum.id;
     row.name = datum.title ? datum.title(run.capabilities) : datum.name;
-    if (const PX_Datum_Value* const before = run.before.find(datum.id))
-        row.before = *before;
+    if (const PX_Datum_Value* const was = before.find(datum.id))
+        row.before = *was;
     PX_Value_Words words = datum.value(run.configuration);
     row.after = {datum.id, datum.name, std::move(words.exact), std::move(words.shown)};
 
     const PX_Report_State state = datum.state(run);
     row.ability = state.ability;
     row.ability_number = datum.ability_number;
+    row.gate = state.gate;
     row.change_bits = state.change_bits;
     row.is_raised = state.is_raised;
     row.is_validated = state.validated;
     row.is_default = state.is_default;
-    if (!row.before)
+    const PX_Datum_Value* const found = run.before.find(datum.id);
+    if (!row.before) {
         row.kind = Kind::Appeared;
-    else if (row.before->exact != row.after->exact)
-        row.kind = kind_of(datum, state, run, order);
+    } else if (row.before->exact != row.after->exact) {
+        const bool is_left = found && found->exact == row.after->exact;
+        row.kind = is_left ? Kind::Prepared : kind_of(datum, state, run, order);
+        if (!is_left && found && found->exact != row.before->exact)
+            row.prepared = *found;
+    }
     if (row.kind == Kind::To_Nearest && datum.score)
         row.score = datum.score(run);
     return row;
@@ -67,15 +84,22 @@ PX_Datum_Change row_of(const PX_Report_Datum& datum, const PX_Reported_Run& run,
 
 PX_Change_Report::PX_Change_Report(const PX_Configuration_Snapshot& before,
                                    const PX_Plotter_Definition& plotter, const PX_Validation_Order& order)
-    : m_order(order) {
+    : PX_Change_Report(before, before, plotter, order) {
+}
+
+PX_Change_Report::PX_Change_Report(const PX_Configuration_Snapshot& before,
+                                   const PX_Configuration_Snapshot& prepared,
+                                   const PX_Plotter_Definition& plotter, const PX_Validation_Order& order,
+                                   std::optional<PX_Exception> failure)
+    : m_failure(std::move(failure)) {
     constexpr const wchar_t* function = L"PX_Change_Report::PX_Change_Report";
     const auto capabilities = plotter.get_plotter_capabilities();
     const auto configuration = plotter.get_plotter_configuration();
     const auto validator = plotter.get_plotter_validator();
     px_require_argument(capabilities && configuration && validator, function, L"plotter", px_report_file);
-    const PX_Reported_Run run = {before, *capabilities, *configuration, *validator};
+    const PX_Reported_Run run = {prepared, *capabilities, *configuration, *validator};
     for (const PX_Report_Datum& datum : px_report_data(*configuration))
-        m_rows.push_back(row_of(datum, run, order));
+        m_rows.push_back(row_of(datum, before, run, order));
     for (const PX_Datum_Value& was : before.get_values()) {
         if (find(was.datum))
             continue;

@@ -19,17 +19,18 @@ struct PX_Change_Kind {
         // The value is what it was; its bit may be raised all the same.
         Kept = 0,
         // Not looked at, but put to its default: the ability that gates the datum lets nobody choose under
-        // the policy.
+        // the policy, or `validate_settable` is false.
         Reset = 1,
         // It was not valid and went to its default, also where the search found the default to be as near as
         // anything, or nothing near enough.
         To_Default = 2,
         // It was not valid and went to the nearest that the device has. A default of the output that the
-        // machine cannot do goes on to the nearest too.
+        // machine cannot do goes on to the nearest too, also where it was to be put to it without a look.
         To_Nearest = 3,
         // It was not valid and was put right by its own rule, whatever the strategy: bounds are cut to the
         // printable ones, pens are put within their limits and made to fit their number, a dithering follows
-        // from the resolution.
+        // from the resolution. Of the output, what neither has a default nor a nearest becomes 0 or empty: a
+        // handshake whose default is not offered, time-outs, protocol and rate without methods.
         Put_Right = 4,
         // It was not repaired itself: it came along with another datum, as the printable bounds come with the
         // size, or the test of the output let all ports of the machine serve. Also what a driver's rule has
@@ -38,6 +39,8 @@ struct PX_Change_Kind {
         // A custom item that was not there before, or is there no more.
         Appeared = 6,
         Gone = 7,
+        // It was changed ahead of the run, by what a host does first with a choice, and the run has left it.
+        Prepared = 8,
     };
 };
 
@@ -50,14 +53,22 @@ struct PX_Datum_Change {
     // Nothing for what was not there, or is there no more.
     std::optional<PX_Datum_Value> before;
     std::optional<PX_Datum_Value> after;
+    // What the run found, where that was changed ahead of it and the run has changed it again: `kind` and
+    // `score` tell how the run came from this to `after`.
+    std::optional<PX_Datum_Value> prepared{};
     PX_Change_Kind::Enum kind = PX_Change_Kind::Kept;
-    // How far the nearest lies from what was chosen, by the formula of its search. Nothing for another kind,
-    // and for a search that has no measure: sources, copies, the output, the raster preference.
+    // How far the nearest lies from what the run found, by the formula of its search: the nearest is looked
+    // up by its name, so that of two entries of one name the first is scored, whichever the search took.
+    // Nothing for another kind, and for a search that has no measure: sources, copies, the output, the raster
+    // preference.
     std::optional<double> score{};
     // The ability of the datum itself, and its number in the ability flags of the domain. Custom data have
     // neither.
     std::optional<PX_Ability_Value::Enum> ability{};
     int ability_number = -1;
+    // The ability that the run has read for the datum, as a rule the same: a finishing option goes by that of
+    // the destination. Custom data have none.
+    std::optional<PX_Ability_Value::Enum> gate{};
     // The bits of the domain's change word that the run has raised for the datum; for the size, with the bit
     // that tells of none near enough. A custom item has no bits: its name is recorded.
     long change_bits = 0;
@@ -67,8 +78,8 @@ struct PX_Datum_Change {
 
     // Whether the value is another one now.
     bool is_changed() const { return before && after && kind != PX_Change_Kind::Kept; }
-    // What takes hosts by surprise.
-    bool is_silent() const { return is_changed() && !is_raised; }
+    // What takes hosts by surprise: the run has changed it without a change bit.
+    bool is_silent() const { return is_changed() && !is_raised && kind != PX_Change_Kind::Prepared; }
 };
 
 // What a run of the plotter validator made of a choice: a row for each datum of the walk, changed or not. A
@@ -81,6 +92,11 @@ public:
     // ability, the order, its change bit and its default flag.
     PX_Change_Report(const PX_Configuration_Snapshot& before, const PX_Plotter_Definition& plotter,
                      const PX_Validation_Order& order);
+    // The same with what was done between `before` and the run, which `prepared` was taken after: scores are
+    // measured against that. `failure` is what ended the run early.
+    PX_Change_Report(const PX_Configuration_Snapshot& before, const PX_Configuration_Snapshot& prepared,
+                     const PX_Plotter_Definition& plotter, const PX_Validation_Order& order,
+                     std::optional<PX_Exception> failure = {});
 
     // In the order of the snapshot, what is gone last.
     const std::vector<PX_Datum_Change>& get_rows() const& { return m_rows; }
@@ -89,10 +105,15 @@ public:
     // Not of a report that goes at once.
     const std::vector<PX_Datum_Change>& get_rows() const&& = delete;
     const PX_Datum_Change* find(const PX_Datum_Id& datum) const&& = delete;
-    const PX_Validation_Order& get_order() const { return m_order; }
 
-    // How many rows have another value now, how many of those without a change bit, and how many came and
-    // went.
+    // What ended the run early, as a plain PX_Exception of the code, the texts and the trace; nothing for a
+    // run that came to its end. What it did not reach is kept, and the run has not marked it as validated.
+    // The datum that it failed at may have another value without its bit.
+    const std::optional<PX_Exception>& get_failure() const& { return m_failure; }
+    const std::optional<PX_Exception>& get_failure() const&& = delete;
+
+    // How many rows have another value now, how many of those the run changed without a change bit, and how
+    // many came and went.
     long get_changed() const;
     long get_silent() const;
     long get_appeared() const { return count(PX_Change_Kind::Appeared); }
@@ -105,8 +126,8 @@ public:
 private:
     long count(PX_Change_Kind::Enum kind) const;
 
-    PX_Validation_Order m_order;
     std::vector<PX_Datum_Change> m_rows;
+    std::optional<PX_Exception> m_failure;
     long m_config_changed = 0;
     long m_caps_changed = 0;
 };

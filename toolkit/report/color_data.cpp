@@ -20,12 +20,16 @@ Words words_of_mode(const Color& color) {
 }
 Words words_of_resolution(const Color& color) {
     Words words = Words().name(color.get_resolution());
-    // As a rule all three are the same.
-    if (const auto had = color.get_rescolormem_settings())
-        words.extent(", ", *had->get_effective_resolution_xy())
-            .unseen(Words()
-                        .extent("", *had->get_phys_resolution_xy())
-                        .extent("", *had->get_addr_resolution_xy()));
+    if (const auto had = color.get_rescolormem_settings()) {
+        const PX_Float_XY effective = *had->get_effective_resolution_xy();
+        const Words others = Words()
+                                 .extent(", physical ", *had->get_phys_resolution_xy())
+                                 .extent(", addressable ", *had->get_addr_resolution_xy());
+        words.extent(", ", effective).unseen(others);
+        // As a rule all three are the same.
+        if (others.exact != Words().extent("", effective).extent("", effective).exact)
+            words.shown += others.shown;
+    }
     return words;
 }
 
@@ -75,7 +79,7 @@ PX_Report_Datum row(const char* name, PX_Repair repair = PX_Repair::To_Default) 
 }
 
 template <class Score>
-PX_Report_Datum with_score(PX_Report_Datum row, Score score) {
+PX_Report_Datum to_nearest(PX_Report_Datum row, Score score) {
     row.repair = PX_Repair::To_Nearest;
     row.score = score;
     return row;
@@ -85,9 +89,9 @@ PX_Report_Datum with_score(PX_Report_Datum row, Score score) {
 
 std::vector<PX_Report_Datum> px_color_data() {
     return {
-        with_score(row<words_of_mode, Ability::RCM_Res_Color_Mem, Cfg::RCM_Cfg_Res_Color_Mem>("Colour mode"),
+        to_nearest(row<words_of_mode, Ability::RCM_Res_Color_Mem, Cfg::RCM_Cfg_Res_Color_Mem>("Colour mode"),
                    mode_score),
-        with_score(row<words_of_resolution, Ability::RCM_Resolution, Cfg::RCM_Cfg_Resolution>("Resolution"),
+        to_nearest(row<words_of_resolution, Ability::RCM_Resolution, Cfg::RCM_Cfg_Resolution>("Resolution"),
                    resolution_score),
         row<words_of_dithering, Ability::RCM_HardSoftNo_Dithering, Cfg::RCM_Cfg_HardSoftNo_Dithering>(
             "Dithering", PX_Repair::By_Own_Rule),

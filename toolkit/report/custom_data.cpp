@@ -1,5 +1,7 @@
 #include <cwchar>
+#include <map>
 
+#include "toolkit/report/by_kind.h"
 #include "toolkit/report/data.h"
 #include "toolkit/report/text.h"
 
@@ -14,8 +16,7 @@ PX_Value_Words words_of(const PX_Item_Value& value) {
                                       '"' + px_on_one_line(wide) + '"'};
             },
             [](const PX_Dev_String& bytes) {
-                const std::string_view view(reinterpret_cast<const char*>(bytes.data()),
-                                            static_cast<std::size_t>(bytes.length()));
+                const std::string_view view = px_bytes_of(bytes);
                 return PX_Value_Words{"bytes " + std::string(view), "bytes " + px_readable_bytes(view)};
             },
             [](bool truth) { return px_words_of(truth); },
@@ -39,22 +40,35 @@ PX_Smart_Pointer<PX_Custom_Configurations> items_of(const PX_Plotter_Configurati
     return px_reported(configuration, &PX_Plotter_Configuration::get_custom_configuration);
 }
 
-// The item of that name in the configuration at hand, which is not the one that the row was made from.
-PX_Report_Datum item_row(const std::wstring& name) {
-    const auto value = [name](const PX_Plotter_Configuration& configuration) {
-        const auto item = items_of(configuration)->get_custom(name.c_str());
+// Of the configuration at hand, which is not the one that the row was made from.
+PX_Smart_Pointer<PX_Custom_Config_Item> item_of(const PX_Plotter_Configuration& configuration,
+                                                const std::wstring& name, int place) {
+    if (const auto items = items_of(configuration)->get_custom_list()) {
+        for (const auto& item : *items) {
+            if (item && name == item->get_canonical_name() && place-- == 0)
+                return item;
+        }
+    }
+    return nullptr;
+}
+
+PX_Report_Datum item_row(const std::wstring& name, int place) {
+    const auto value = [name, place](const PX_Plotter_Configuration& configuration) {
+        const auto item = item_of(configuration, name, place);
         return words_of(item ? px_item_value_of(*item) : PX_Item_Value());
     };
-    const auto state = [name](const PX_Reported_Run& run) {
-        const auto items = items_of(run.configuration);
+    const auto state = [name, place](const PX_Reported_Run& run) {
+        const auto item = item_of(run.configuration, name, place);
         PX_Report_State state;
-        state.validated = items->get_one_validated(name.c_str());
-        state.is_default = items->get_one_default(name.c_str());
-        state.is_raised = run.validator.get_one_custom_cfg_change(name.c_str());
+        state.validated = item && item->get_validated();
+        state.is_default = item && item->get_default();
+        // The record of a name tells of the item that is found by it.
+        state.is_raised = place == 0 && run.validator.get_one_custom_cfg_change(name.c_str());
         return state;
     };
     PX_Report_Datum row = {
-        {PX_Domain_Mask::Custom, -1, name}, '"' + px_on_one_line(name) + '"', -1, value, state};
+        {PX_Domain_Mask::Custom, -1, name, place}, '"' + px_on_one_line(name) + '"', -1, value, state};
+    row.flag_follows_value = false;
     row.title = [name](const PX_Plotter_Capabilities& capabilities) {
         return title_of_setting(capabilities, name.c_str());
     };
@@ -66,9 +80,12 @@ PX_Report_Datum item_row(const std::wstring& name) {
 std::vector<PX_Report_Datum> px_custom_data(const PX_Plotter_Configuration& configuration) {
     std::vector<PX_Report_Datum> rows;
     if (const auto items = items_of(configuration)->get_custom_list()) {
+        std::map<std::wstring, int> places;
         for (const auto& item : *items) {
-            if (item)
-                rows.push_back(item_row(item->get_canonical_name()));
+            if (!item)
+                continue;
+            const std::wstring name = item->get_canonical_name();
+            rows.push_back(item_row(name, places[name]++));
         }
     }
     return rows;

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "toolkit/report/text.h"
+#include "toolkit/report/words.h"
 
 PX_Value_Words& PX_Value_Words::name(const wchar_t* text) {
     const std::wstring_view name = text ? text : L"";
@@ -44,16 +45,27 @@ PX_Value_Words& PX_Value_Words::unseen(const PX_Value_Words& words) {
     return *this;
 }
 
+std::string_view px_bytes_of(const PX_Dev_String& string) {
+    return {reinterpret_cast<const char*>(string.data()), static_cast<std::size_t>(string.length())};
+}
+
 PX_Value_Words px_words_of(const wchar_t* name) {
     return PX_Value_Words().name(name);
 }
 
 PX_Value_Words px_words_of(bool yes) {
-    return PX_Value_Words().text(yes ? "yes" : "no");
+    return PX_Value_Words().text(px_yes_or_no(yes));
 }
 
 PX_Value_Words px_words_of(const PX_Smart_Pointer<PX_Float_Rectangle>& bounds) {
     return bounds ? PX_Value_Words().bounds(*bounds) : PX_Value_Words().text("(none)");
+}
+
+PX_Value_Words px_words_of(const PX_Smart_Pointer<PX_Dev_String>& string) {
+    if (!string)
+        return {"none", "(none)"};
+    const std::string_view bytes = px_bytes_of(*string);
+    return {"string " + std::string(bytes), px_readable_bytes(bytes)};
 }
 
 std::vector<PX_Report_Datum> px_report_data(const PX_Plotter_Configuration& configuration) {

@@ -29,6 +29,8 @@ struct PX_Value_Words {
     PX_Value_Words& unseen(const PX_Value_Words& words);
 };
 
+std::string_view px_bytes_of(const PX_Dev_String& string);
+
 // A value that needs no word beside it.
 PX_Value_Words px_words_of(const wchar_t* name);
 PX_Value_Words px_words_of(bool yes);
@@ -47,7 +49,7 @@ enum class PX_Repair { To_Default, To_Nearest, By_Own_Rule };
 
 // A run that is over, as the rules of the report look back at it.
 struct PX_Reported_Run {
-    const PX_Configuration_Snapshot& before;
+    const PX_Configuration_Snapshot& before;  // what the run found
     const PX_Plotter_Capabilities& capabilities;
     const PX_Plotter_Configuration& configuration;
     const PX_Plotter_Validator& validator;
@@ -74,6 +76,9 @@ struct PX_Report_Datum {
     // For a repair to the nearest with a rule of its own for when it is one. Never asked where the default
     // was taken.
     std::function<bool(PX_Validation_Strategy::Enum, const PX_Plotter_Capabilities&)> goes_to_nearest{};
+    // Whether every setter of the value takes the default flag away, so that the flag tells of this very
+    // value.
+    bool flag_follows_value = true;
     // Whether the default operation leaves the datum as it is, so that it can only have come along; for a
     // datum that others write to.
     std::function<bool(const PX_Plotter_Capabilities&)> keeps_at_default{};

@@ -2,6 +2,7 @@
 
 #include "toolkit/core/fields.h"
 #include "toolkit/report/data.h"
+#include "toolkit/report/run.h"
 
 namespace {
 
@@ -41,21 +42,17 @@ void copy_overwriting_flags(const PX_Plotter_Configuration& from, const PX_Plott
 
 PX_Change_Report px_dry_run(PX_Plotter_Definition& plotter, const PX_Plotter_Configuration& choice,
                             const PX_Validation_Order& order, const std::function<void()>& prepare) {
-    const auto validator = plotter.get_plotter_validator();
     const auto offered = plotter.get_plotter_capabilities();
-    px_require_argument(validator && offered, function, L"plotter", px_report_file);
+    px_require_argument(offered && plotter.get_plotter_validator(), function, L"plotter", px_report_file);
     const PX_Configuration_Snapshot before(choice);
     PX_Smart_Pointer<PX_Plotter_Configuration> configuration;
-    px_store_made(configuration, choice.clone(), function, L"configuration", px_report_file);
+    px_store_clone(configuration, &choice, function, L"configuration", px_report_file);
     copy_overwriting_flags(choice, *configuration);
     PX_Smart_Pointer<PX_Plotter_Capabilities> capabilities;
-    px_store_made(capabilities, offered->clone(), function, L"capabilities", px_report_file);
+    px_store_clone(capabilities, offered.get(), function, L"capabilities", px_report_file);
 
     const Put_Back put_back(plotter);
     plotter.set_plotter_capabilities(capabilities.get());
     plotter.set_plotter_configuration(configuration.get());
-    if (prepare)
-        prepare();
-    validator->validate_all(order.strategy, order.policy, order.validate_settable);
-    return PX_Change_Report(before, plotter, order);
+    return px_run(plotter, before, order, prepare);
 }

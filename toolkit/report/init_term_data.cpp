@@ -1,13 +1,4 @@
 #include "toolkit/report/data.h"
-#include "toolkit/report/text.h"
-
-PX_Value_Words px_words_of(const PX_Smart_Pointer<PX_Dev_String>& string) {
-    if (!string)
-        return {"none", "(none)"};
-    const std::string_view bytes(reinterpret_cast<const char*>(string->data()),
-                                 static_cast<std::size_t>(string->length()));
-    return {"string " + std::string(bytes), px_readable_bytes(bytes)};
-}
 
 std::vector<PX_Report_Datum> px_init_term_data() {
     using Strings = PX_InitTerm_Configuration;

@@ -58,9 +58,12 @@ PX_Report_Datum nearest_row(const char* name, long bits, Goes_To_Nearest goes_to
 }  // namespace
 
 std::vector<PX_Report_Datum> px_output_data() {
+    auto port = nearest_row<words_of_port, Ability::IO_Type, Cfg::IO_Config_Type, Cfg::IO_Config_Portname>(
+        "Port", Change::Portname | Change::Type, always);
+    // Neither that the plot goes to a file nor that all ports are valid has a flag.
+    port.flag_follows_value = false;
     return {
-        nearest_row<words_of_port, Ability::IO_Type, Cfg::IO_Config_Type, Cfg::IO_Config_Portname>(
-            "Port", Change::Portname | Change::Type, always),
+        port,
         nearest_row<&Output::get_protocol, Ability::IO_Protocol, Cfg::IO_Config_Protocol>(
             "Protocol", Change::Protocol, as_asked_or_with_methods),
         nearest_row<&Output::get_baud_rate, Ability::IO_Baud_Rate, Cfg::IO_Config_Baud_Rate>(

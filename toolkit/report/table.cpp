@@ -15,14 +15,10 @@ using Kind = PX_Change_Kind;
 constexpr PX_Word<Kind::Enum> outcomes[] = {
     {"kept", Kind::Kept},          {"reset", Kind::Reset},        {"default", Kind::To_Default},
     {"nearest", Kind::To_Nearest}, {"own rule", Kind::Put_Right}, {"along", Kind::Followed},
-    {"new", Kind::Appeared},       {"gone", Kind::Gone},
+    {"new", Kind::Appeared},       {"gone", Kind::Gone},          {"prepared", Kind::Prepared},
 };
 
 using Line = std::array<std::string, 7>;
-
-const char* yes_or_no(bool yes) {
-    return yes ? "yes" : "no";
-}
 
 // Ends `line` by the value; what it has of further lines goes under the first.
 void add_lines(std::vector<Line>& lines, Line line, const char* when, const std::string& shown) {
@@ -44,12 +40,20 @@ void add_row(std::vector<Line>& lines, const PX_Datum_Change& row) {
                        row.is_raised     ? "raised"
                        : row.is_silent() ? "silent"
                                          : "none",
-                       yes_or_no(row.is_validated),
-                       yes_or_no(row.is_default)};
+                       px_yes_or_no(row.is_validated),
+                       px_yes_or_no(row.is_default)};
     if (!row.is_changed())
         return add_lines(lines, line, "is  ", row.after->shown);
     add_lines(lines, line, "was ", row.before->shown);
-    add_lines(lines, {}, "now ", row.after->shown);
+    const PX_Datum_Value* above = &*row.before;
+    const auto add_below = [&](const char* when, const PX_Datum_Value& value) {
+        const bool reads_the_same = value.shown == above->shown;
+        add_lines(lines, {}, when, reads_the_same ? "another that reads the same" : value.shown);
+        above = &value;
+    };
+    if (row.prepared)
+        add_below("set ", *row.prepared);
+    add_below("now ", *row.after);
 }
 
 }  // namespace
@@ -79,23 +83,15 @@ void px_print_changes(std::ostream& out, const PX_Change_Report& report) {
     const PX_Datum_Change* const size =
         report.find({PX_Domain_Mask::Media, PX_Media_Config_Flags::Cfg_Media_Size});
     if (size && (size->change_bits & PX_Media_Change::Size_Nearest_Failed))
-        out << "No size was near enough: the size went to its default.\n";
+        out << (size->kind == Kind::To_Default ? "No size was near enough: the size went to its default.\n"
+                                               : "No size was near enough, and it stays as it is.\n");
     out << "The change words name these domains:\n"
         << "    configuration: " << px_domain_words(report.get_config_changed()) << '\n'
         << "    capabilities:  " << px_domain_words(report.get_caps_changed()) << '\n';
-}
-
-void px_print_findings(std::ostream& out, const std::vector<PX_Device_Finding>& findings) {
-    if (findings.empty()) {
-        out << "Nothing is wrong with the device.\n";
-        return;
+    if (const auto& failure = report.get_failure()) {
+        out << "The run failed with error " << failure->m_code;
+        if (*failure->m_detail)
+            out << ", " << px_quoted(failure->m_detail);
+        out << ": what it did not reach is as it was.\n";
     }
-    std::vector<std::array<std::string, 4>> lines = {{"Domain", "Object", "Fault", "What comes of it"}};
-    // A name may hold what a terminal would obey.
-    for (const PX_Device_Finding& finding : findings)
-        lines.push_back({px_on_one_line(px_domain_text(finding)), px_on_one_line(finding.object),
-                         px_on_one_line(px_fault_text(finding.fault)),
-                         px_on_one_line(px_effect_text(finding))});
-    px_print_columns(out, lines);
-    out << '\n' << findings.size() << (findings.size() == 1 ? " finding.\n" : " findings.\n");
 }

@@ -48,6 +48,14 @@ constexpr PX_Word<long> domains[] = {
     {"linetypes", PX_Domain_Mask::Linetype},
 };
 
+template <std::size_t count>
+std::string all_words(const PX_Word<long> (&table)[count], long bits, const char* separator) {
+    std::string words = px_take_words(table, bits, separator);
+    if (bits != 0)
+        words.append(words.empty() ? "" : separator).append("bits " + std::to_string(bits));
+    return words.empty() ? "none" : words;
+}
+
 }  // namespace
 
 const char* px_word_of(PX_IO_Type::Enum type) {
@@ -63,10 +71,7 @@ const char* px_word_of(PX_Ability_Value::Enum ability) {
 }
 
 std::string px_handshake_words(long handshake) {
-    std::string words = px_take_words(handshakes, handshake, ", ");
-    if (handshake != 0)
-        words.append(words.empty() ? "" : ", ").append("bits " + std::to_string(handshake));
-    return words.empty() ? "none" : words;
+    return all_words(handshakes, handshake, ", ");
 }
 
 std::string px_word_of(const PX_RGB32* color) {
@@ -97,7 +102,10 @@ std::optional<PX_RGB32> px_color_of(std::string_view word) {
     return PX_RGB32(parts[0], parts[1], parts[2], parts[3]);
 }
 
+const char* px_yes_or_no(bool yes) {
+    return yes ? "yes" : "no";
+}
+
 std::string px_domain_words(long mask) {
-    const std::string names = px_take_words(domains, mask, "; ");
-    return names.empty() ? "none" : names;
+    return all_words(domains, mask, "; ");
 }

@@ -60,5 +60,8 @@ std::string px_handshake_words(long handshake);
 std::string px_word_of(const PX_RGB32* color);
 std::optional<PX_RGB32> px_color_of(std::string_view word);
 
-// The domains of a mask, such as "media; pens"; "none" for 0.
+// "yes" or "no".
+const char* px_yes_or_no(bool yes);
+
+// The domains of a mask, such as "media; pens"; "none" for 0. A bit without a word is told by its number.
 std::string px_domain_words(long mask);

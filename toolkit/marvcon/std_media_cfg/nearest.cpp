@@ -59,7 +59,7 @@ class Size_Score {
 public:
     Size_Score(const PX_Media_Settings& had, const wchar_t* name)
         : m_had(had),
-          m_name(name),
+          m_name(name ? name : L""),
           m_sheet_x(had.get_media_bounds()->x, 10.0F),
           m_sheet_y(had.get_media_bounds()->y, 10.0F),
           m_printable_x(had.get_printable_bounds()->x_extent(), 1.0F),

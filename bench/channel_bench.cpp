@@ -5,52 +5,14 @@
 
 #include <cstdio>
 #include <cstring>
-#include <memory>
 #include <string>
 #include <vector>
 
-#include "toolkit/marvcon/marvcon.h"
+#include "bench/plot_to_file.h"
 
 // The output channel beside stdio and the system's own call, and the discovery of ports.
 
 namespace {
-
-class Handler : public Std_Error_Handler {
-public:
-    const wchar_t* get_warning_caption() const override { return L"Warning"; }
-    const wchar_t* get_severe_error_caption() const override { return L"Severe"; }
-    const wchar_t* get_error_caption() const override { return L"Error"; }
-    const wchar_t* get_ARI_error_caption() const override { return L"Error"; }
-    const wchar_t* get_terminal_error_caption() const override { return L"Error"; }
-    const wchar_t* get_info_caption() const override { return L"Info"; }
-};
-
-// A plot to that file.
-class Plot {
-public:
-    explicit Plot(const std::string& path) : m_plotter(new PX_Std_Plotter_Definition(new Handler)) {
-        const auto factory = m_plotter->get_class_factory();
-        m_plotter->set_meta_capabilities(factory->MK_Create_Meta_Capabilities());
-        m_plotter->set_plotter_capabilities(factory->MK_Create_Plotter_Capabilities(L"", L"", L""));
-        m_plotter->set_plotter_configuration(factory->MK_Create_Plotter_Configuration(L"", L"", L""));
-        const PX_Std_Plotter_IO_Capabilities capabilities;
-        m_plotter->get_plotter_capabilities()->set_io_capabilities(&capabilities);
-        PX_Std_Plotter_IO_Configuration choices;
-        choices.set_type(PX_IO_Type::File);
-        choices.set_plot_to_file(true);
-        choices.set_portname(std::wstring(path.begin(), path.end()).c_str());
-        m_plotter->get_plotter_configuration()->set_io_configuration(&choices);
-        m_io.reset(factory->MK_Create_Plotter_IO(new Handler));
-        m_is_open = m_io->configure(m_plotter.get()) && m_io->open();
-    }
-    bool is_open() const { return m_is_open; }
-    PX_Plotter_IO& io() const { return *m_io; }
-
-private:
-    PX_Smart_Pointer<PX_Plotter_Definition> m_plotter;
-    std::unique_ptr<PX_Plotter_IO> m_io;
-    bool m_is_open;
-};
 
 // The null device, or a file that goes with it.
 class Place {
@@ -85,7 +47,7 @@ void run(benchmark::State& state, Write write) {
 
 void channel(benchmark::State& state) {
     const Place place(state.range(0) != 0);
-    const Plot plot(place.path);
+    const bench::Plot_To_File plot(std::wstring(place.path.begin(), place.path.end()));
     if (!plot.is_open())
         return state.SkipWithError("not opened");
     PX_Plotter_IO& io = plot.io();

@@ -1,11 +1,10 @@
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
-#include <memory>
 #include <string>
 #include <vector>
 
-#include "toolkit/marvcon/marvcon.h"
+#include "bench/plot_to_file.h"
 #include "toolkit/platform/win_types.h"
 
 // The output channel on Windows, plotting to a file, beside what one would use instead: fwrite with a buffer
@@ -15,16 +14,6 @@
 namespace {
 
 constexpr int turns = 15;
-
-class Handler : public Std_Error_Handler {
-public:
-    const wchar_t* get_warning_caption() const override { return L"Warning"; }
-    const wchar_t* get_severe_error_caption() const override { return L"Severe"; }
-    const wchar_t* get_error_caption() const override { return L"Error"; }
-    const wchar_t* get_ARI_error_caption() const override { return L"Error"; }
-    const wchar_t* get_terminal_error_caption() const override { return L"Error"; }
-    const wchar_t* get_info_caption() const override { return L"Info"; }
-};
 
 // A file that is gone afterwards.
 class Place {
@@ -43,30 +32,14 @@ public:
 
 class Channel {
 public:
-    explicit Channel(const wchar_t* path) {
-        const auto factory = m_plotter->get_class_factory();
-        m_plotter->set_meta_capabilities(factory->MK_Create_Meta_Capabilities());
-        m_plotter->set_plotter_capabilities(factory->MK_Create_Plotter_Capabilities(L"", L"", L""));
-        m_plotter->set_plotter_configuration(factory->MK_Create_Plotter_Configuration(L"", L"", L""));
-        const PX_Std_Plotter_IO_Capabilities capabilities;
-        m_plotter->get_plotter_capabilities()->set_io_capabilities(&capabilities);
-        PX_Std_Plotter_IO_Configuration choices;
-        choices.set_type(PX_IO_Type::File);
-        choices.set_plot_to_file(true);
-        choices.set_portname(path);
-        m_plotter->get_plotter_configuration()->set_io_configuration(&choices);
-        m_io.reset(factory->MK_Create_Plotter_IO(new Handler));
-        m_io->configure(m_plotter.get()) && m_io->open();
-    }
-    ~Channel() { m_io->close(); }
-    Channel(const Channel&) = delete;
-    Channel& operator=(const Channel&) = delete;
+    explicit Channel(const wchar_t* path) : m_plot(path) {}
 
-    bool write(const char* bytes, unsigned long size) { return m_io->write(bytes, size) >= 0; }
+    bool write(const char* bytes, unsigned long size) {
+        return m_plot.is_open() && m_plot.io().write(bytes, size) >= 0;
+    }
 
 private:
-    const PX_Smart_Pointer<PX_Plotter_Definition> m_plotter = new PX_Std_Plotter_Definition(new Handler);
-    std::unique_ptr<PX_Plotter_IO> m_io;
+    const bench::Plot_To_File m_plot;
 };
 
 class Stream {

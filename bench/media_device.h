@@ -2,21 +2,13 @@
 
 #include <string>
 
+#include "bench/handler.h"
 #include "toolkit/marvcon/marvcon.h"
 
 // A device of so many sheets, for the benchmarks: types, one source that feeds them all, one destination, and
 // a configuration of its defaults.
 
 namespace bench {
-
-class Handler : public Std_Error_Handler {
-    const wchar_t* get_warning_caption() const override { return L""; }
-    const wchar_t* get_severe_error_caption() const override { return L""; }
-    const wchar_t* get_error_caption() const override { return L""; }
-    const wchar_t* get_ARI_error_caption() const override { return L""; }
-    const wchar_t* get_terminal_error_caption() const override { return L""; }
-    const wchar_t* get_info_caption() const override { return L""; }
-};
 
 inline PX_Smart_Pointer<PX_Named_Object_List<PX_Media_Size>> many_sizes(int count) {
     PX_Smart_Pointer<PX_Named_Object_List<PX_Media_Size>> sizes(new PX_Named_Object_List<PX_Media_Size>);

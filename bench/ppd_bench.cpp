@@ -3,7 +3,6 @@
 #include <cups/pwg.h>
 
 #include <cstdio>
-#include <cstdlib>
 
 #include "bench/media_device.h"
 #include "examples/drivers/ppd/definition.h"

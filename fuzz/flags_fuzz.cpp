@@ -30,66 +30,67 @@ Value kept(Value value) {
     return static_cast<Value>(number >= -1 && number <= highest ? number : -1);
 }
 
+// One operation on the set; gives the text that the set has to have then.
+template <class Kind, class Value>
+std::wstring take_step(Input& input, Open<Kind>& set, int flag, Value value) {
+    const std::wstring before = set.get_text();
+    switch (input.up_to(6)) {
+        case 0: {
+            const std::wstring text = input.text(40);
+            set.set_text(text.c_str());
+            return text;
+        }
+        case 1: {
+            const int other = flag / 2;
+            const auto its_value = set.get_one(other);
+            set.set_one(value, flag);
+            require(other == flag || set.get_one(other) == its_value, "the other flags stay");
+            const int index = std::is_same_v<Value, bool> && flag > 0 ? flag / 4 : flag;
+            if (index >= 0 && index < std::ssize(before))
+                require(set.get_one(flag) == kept<Kind>(value), "a flag is what it was set to");
+            return set.get_text();
+        }
+        case 2:
+            set.set_all(value);
+            require(before.empty() || set.get_one(0) == kept<Kind>(value), "all flags are set");
+            return set.get_text();
+        case 3: {
+            const int count = input.rarely() ? std::min(flag, -1) : input.byte();
+            set.setNumFlags(count);
+            std::wstring text = before;
+            if (count >= 0)
+                text.resize(static_cast<std::size_t>(count), L'0');
+            // A digit may have become the end of the text.
+            return before == set.get_text() && text.starts_with(before) ? before : text;
+        }
+        case 4: {
+            // A part of its own text.
+            const std::size_t skipped = std::min<std::size_t>(input.byte(), before.size());
+            set.set_text(set.get_text() + skipped);
+            return before.substr(skipped);
+        }
+        case 5: {
+            const Open<Kind> copy(set);
+            set = copy;
+            return before;
+        }
+        default:
+            set.set_text(nullptr);
+            return {};
+    }
+}
+
 template <class Kind, class Value>
 void drive(Input& input) {
-    constexpr bool is_boolean = std::is_same_v<Value, bool>;
     Open<Kind> set;
     while (!input.is_empty()) {
         const int flag = input.number<int>();
         const auto value = static_cast<Value>(input.number<int>());
-        const std::wstring before = set.get_text();
-        std::wstring text = before;
-        switch (input.up_to(6)) {
-            case 0:
-                text = input.text(40);
-                set.set_text(text.c_str());
-                break;
-            case 1: {
-                const int other = flag / 2;
-                const auto its_value = set.get_one(other);
-                set.set_one(value, flag);
-                require(other == flag || set.get_one(other) == its_value, "the other flags stay");
-                const int index = is_boolean && flag > 0 ? flag / 4 : flag;
-                if (index >= 0 && index < std::ssize(before))
-                    require(set.get_one(flag) == kept<Kind>(value), "a flag is what it was set to");
-                text = set.get_text();
-                break;
-            }
-            case 2:
-                set.set_all(value);
-                require(before.empty() || set.get_one(0) == kept<Kind>(value), "all flags are set");
-                text = set.get_text();
-                break;
-            case 3: {
-                const int count = input.rarely() ? std::min(flag, -1) : input.byte();
-                set.setNumFlags(count);
-                if (count >= 0)
-                    text.resize(static_cast<std::size_t>(count), L'0');
-                // A digit may have become the end of the text.
-                if (before == set.get_text() && text.starts_with(before))
-                    text = before;
-                break;
-            }
-            case 4: {
-                // A part of its own text.
-                const std::size_t skipped = std::min<std::size_t>(input.byte(), before.size());
-                text = before.substr(skipped);
-                set.set_text(set.get_text() + skipped);
-                break;
-            }
-            case 5: {
-                const Open<Kind> copy(set);
-                set = copy;
-                break;
-            }
-            default:
-                set.set_text(nullptr);
-                text.clear();
-        }
+        const std::wstring text = take_step(input, set, flag, value);
         require(set.get_text() == text, "the text is that of the digits");
         for (const int each : {flag, flag / 2, input.up_to(60)})
             require(set.get_one(each) == kept<Kind>(set.get_one(each)), "a flag is one of its values");
-        if constexpr (is_boolean) {
+        if constexpr (std::is_same_v<Value, bool>) {
             const int n = flag % 100;
             bool all = true;
             for (int each = 0; each < n; ++each)

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Holds the include lines of toolkit/ and examples/ against the floors of the house.
+"""Holds the include lines of toolkit/ and examples/ against the floors of the house, and all files to their length.
 
 An include goes down, never up, never sideways between domains. Each violation is printed as
 file:line: reason. With --self-test, every rule first has to catch a sample that breaks it.
@@ -22,12 +22,10 @@ DOMAINS = {
     "std_init_term_cfg", "std_custom_cfg", "std_linetype_caps", "std_raster_caps", "std_sys_io_caps",
     "std_plotter_io", "device_data", "font_usage",
 }
-# Who may read the interface.h of which other domain: the identity of the device, and the ports. Media need the name
-# lists that stand with the identity.
+# Who may read the interface.h of which other domain: the identity of the device, and the ports.
 NEIGHBOURS = {
     ("std_io_cfg", "std_meta_cfg"), ("std_plotter_io", "std_meta_cfg"),
-    ("std_res_color_mem_cfg", "std_meta_cfg"), ("std_media_cfg", "std_meta_cfg"),
-    ("std_plotter_io", "std_io_cfg"),
+    ("std_res_color_mem_cfg", "std_meta_cfg"), ("std_plotter_io", "std_io_cfg"),
 }
 # Discovery makes the standard ports, and the validator of the output makes discoveries: there is no creator for them.
 MAKERS = {("std_sys_io_caps", "std_io_cfg"), ("std_io_cfg", "std_sys_io_caps")}
@@ -42,7 +40,11 @@ MACHINES = {
     "toolkit/platform/win32/win32_platform.h": "examples/plot_host/windows",
 }
 
+HOUSE = {"toolkit", "examples"}
 SUFFIXES = {".h", ".cpp", ".inc", ".rc"}
+# Beside the house only the length counts.
+YARD = {"tests", "bench", "fuzz", "scripts"}
+YARD_SUFFIXES = {".h", ".cpp", ".py", ".sh"}
 MOST_LINES = 600
 
 INCLUDE = re.compile(r'^\s*#\s*include\b\s*(?:(<)|")?([^">]*)')
@@ -106,6 +108,8 @@ class Checker:
 
     def of_file(self, file):
         yield from self.of_place(file)
+        if file.parts()[0] not in HOUSE:
+            return
         for line, condition in file.conditions:
             if (name := OPERATING_SYSTEM.search(condition)) and not self.may_ask_for_system(file.path):
                 yield line, f"shared code asks for the operating system by {name[1]}"
@@ -221,9 +225,10 @@ class Checker:
 
 def texts_below(root):
     texts = {}
-    for folder in ("toolkit", "examples"):
+    for folder in HOUSE | YARD:
+        suffixes = SUFFIXES if folder in HOUSE else YARD_SUFFIXES
         for path in sorted(root.joinpath(folder).rglob("*")):
-            if path.suffix in SUFFIXES and path.is_file():
+            if path.suffix in suffixes and path.is_file():
                 texts[path.relative_to(root).as_posix()] = path.read_text(encoding="utf-8")
     return texts
 
@@ -321,6 +326,9 @@ SAMPLES = {
         {"examples/a.cpp": "#if defined(A) || \\\n    defined(__linux__)\n#endif\n#elif __APPLE__\n"},
         [(1, "__linux__"), (4, "__APPLE__")]),
     "too long": ({"toolkit/core/a.cpp": "\n" * (MOST_LINES + 1)}, [(601, "601 lines")]),
+    "too long beside the house": (
+        {"tests/a.cpp": include("marvcon/std_io_cfg/a.h") + "#ifdef _WIN32\n" + "\n" * MOST_LINES,
+         "scripts/a.py": "\n" * MOST_LINES}, [(601, "602 lines")]),
     "long enough": ({"toolkit/core/a.cpp": "\n" * MOST_LINES}, []),
     "an unknown floor": ({"toolkit/attic/a.cpp": ""}, [(1, "no rule knows")]),
     "an unknown domain": ({"toolkit/marvcon/std_scan_cfg/a.cpp": ""}, [(1, "no rule knows")]),

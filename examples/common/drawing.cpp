@@ -273,27 +273,10 @@ private:
     // M, L and Z; a number pair more than a letter takes is a line to there.
     void read_path(const Node& node, const Stroke& inherited) {
         std::vector<double> points;
-        const auto end_line = [&] {
-            if (points.size() >= 4)
-                add(node, inherited, points);
-            points.clear();
-        };
         for (Words words(attribute(node, "d")); !words.is_at_end();) {
             if (words.is_at_letter()) {
-                const char letter = words.letter();
-                if (letter == 'M') {
-                    end_line();
-                } else if (letter == 'Z' || letter == 'z') {
-                    if (points.empty())
-                        fail(node, "that is closed before it begins");
-                    const std::array<double, 2> first = {points[0], points[1]};
-                    points.insert(points.end(), first.begin(), first.end());
-                    end_line();
-                    points.assign(first.begin(), first.end());
+                if (!read_step(node, inherited, words.letter(), points))
                     continue;
-                } else if (letter != 'L' || points.empty()) {
-                    fail(node, std::string("with the step '") + letter + "', which is not understood here");
-                }
             } else if (points.empty()) {
                 fail(node, "that does not begin with M");
             }
@@ -303,7 +286,32 @@ private:
                 fail(node, "whose d is not made of whole points");
             points.insert(points.end(), {*x, *y});
         }
-        end_line();
+        end_line(node, inherited, points);
+    }
+
+    // Whether a point comes after the letter. A closed line goes on from where it began.
+    bool read_step(const Node& node, const Stroke& inherited, char letter, std::vector<double>& points) {
+        if (letter == 'Z' || letter == 'z') {
+            if (points.empty())
+                fail(node, "that is closed before it begins");
+            const std::array<double, 2> first = {points[0], points[1]};
+            points.insert(points.end(), first.begin(), first.end());
+            end_line(node, inherited, points);
+            points.assign(first.begin(), first.end());
+            return false;
+        }
+        if (letter == 'M')
+            end_line(node, inherited, points);
+        else if (letter != 'L' || points.empty())
+            fail(node, std::string("with the step '") + letter + "', which is not understood here");
+        return true;
+    }
+
+    // A line of less than two points is none.
+    void end_line(const Node& node, const Stroke& inherited, std::vector<double>& points) {
+        if (points.size() >= 4)
+            add(node, inherited, points);
+        points.clear();
     }
 
     void add(const Node& node, const Stroke& inherited, const std::vector<double>& numbers,

@@ -107,6 +107,34 @@ std::pair<std::string, int> print_server_of(const std::string& words) {
     return {host, number};
 }
 
+// Where a plot goes, and what of. `ports` gets the mapped ones as they stand on the line.
+void add_plot_options(CLI::App& app, Arguments& arguments, std::vector<std::string>& ports) {
+    const auto add_words = [&app](const char* option, const char* kind, const char* description, auto store) {
+        return app.add_option_function<std::string>(option, store, description)->type_name(kind);
+    };
+    auto* const to = add_words("--to", "WHERE", "send a plot to file:PATH, port:NAME or queue:NAME",
+                               [&](const std::string& words) { arguments.to = destination_of(words); });
+    auto* const drawing =
+        app.add_option("--drawing", arguments.drawing, "SVG drawing of lines and circles to plot");
+    drawing->type_name("FILE")->needs(to);
+    to->needs(drawing);
+    app.add_flag("--any-destination", arguments.any_destination,
+                 "send the plot also where the choice was put because it could not go where it was to")
+        ->needs(to);
+    app.add_flag("--true-arcs", arguments.true_arcs, "have the device draw circles, not lines of many sides")
+        ->needs(to);
+    app.add_flag("--round-dots", arguments.round_dots, "draw fat dots as circles, not as squares")->needs(to);
+    app.add_option("--tessellation", arguments.tessellation, "factor for the number of a circle's sides")
+        ->check(CLI::Range(0.1, 100.0))
+        ->type_name("FACTOR")
+        ->capture_default_str()
+        ->needs(to);
+    app.add_option("--map-port", ports, "device that a port stands for, as COM1=/dev/ttyUSB0")
+        ->type_name("NAME=DEVICE");
+    add_words("--print-server", "HOST:PORT", "where the queues are, if not on the usual server",
+              [&](const std::string& words) { arguments.print_server = print_server_of(words); });
+}
+
 }  // namespace
 
 std::optional<Arguments> parse_arguments(int count, const char* const* words, std::ostream& out) {
@@ -133,31 +161,8 @@ std::optional<Arguments> parse_arguments(int count, const char* const* words, st
                  "put the data that the user may set to their defaults instead of validating them");
     app.add_flag("--dry-run", arguments.dry_run,
                  "only tell what would be changed; nothing is changed, saved or plotted");
-    const auto add_words = [&app](const char* option, const char* kind, const char* description, auto store) {
-        return app.add_option_function<std::string>(option, store, description)->type_name(kind);
-    };
-    auto* const to = add_words("--to", "WHERE", "send a plot to file:PATH, port:NAME or queue:NAME",
-                               [&](const std::string& words) { arguments.to = destination_of(words); });
-    auto* const drawing =
-        app.add_option("--drawing", arguments.drawing, "SVG drawing of lines and circles to plot");
-    drawing->type_name("FILE")->needs(to);
-    to->needs(drawing);
-    app.add_flag("--any-destination", arguments.any_destination,
-                 "send the plot also where the choice was put because it could not go where it was to")
-        ->needs(to);
-    app.add_flag("--true-arcs", arguments.true_arcs, "have the device draw circles, not lines of many sides")
-        ->needs(to);
-    app.add_flag("--round-dots", arguments.round_dots, "draw fat dots as circles, not as squares")->needs(to);
-    app.add_option("--tessellation", arguments.tessellation, "factor for the number of a circle's sides")
-        ->check(CLI::Range(0.1, 100.0))
-        ->type_name("FACTOR")
-        ->capture_default_str()
-        ->needs(to);
     std::vector<std::string> ports;
-    app.add_option("--map-port", ports, "device that a port stands for, as COM1=/dev/ttyUSB0")
-        ->type_name("NAME=DEVICE");
-    add_words("--print-server", "HOST:PORT", "where the queues are, if not on the usual server",
-              [&](const std::string& words) { arguments.print_server = print_server_of(words); });
+    add_plot_options(app, arguments, ports);
     app.add_option_function<std::vector<std::string>>(
            "--list",
            [&](const std::vector<std::string>& lists) {

@@ -172,7 +172,7 @@ Exit_Code check(const Driver& driver, const PX_Plotter_Definition& device, std::
 Exit_Code run(int count, const char* const* words, const Find_Driver& find_driver, std::ostream& out,
               std::ostream& err, User user) {
     Host_Platform platform;
-    const Use_Host_Platform use(platform);
+    const PX_Use_Platform use(platform);
     PX_Smart_Pointer<Host_Error_Handler> handler;
     try {
         const std::optional<Arguments> arguments = parse_arguments(count, words, out);

@@ -51,16 +51,4 @@ private:
     std::wstring m_write_failure;
 };
 
-// Makes it the current platform while it lives.
-class Use_Host_Platform {
-public:
-    explicit Use_Host_Platform(Host_Platform& platform) : m_former(PX_Set_Platform(&platform)) {}
-    ~Use_Host_Platform() { PX_Set_Platform(m_former); }
-    Use_Host_Platform(const Use_Host_Platform&) = delete;
-    Use_Host_Platform& operator=(const Use_Host_Platform&) = delete;
-
-private:
-    PX_Platform* m_former;
-};
-
 }  // namespace plot_host

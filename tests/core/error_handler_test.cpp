@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <memory>
 #include <sstream>
 
 #include "tests/support/test_handler.h"

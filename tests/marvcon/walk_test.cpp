@@ -106,20 +106,7 @@ void expect_rows(const char* domain, const std::vector<Row<Bench>>& rows) {
              {Value::Ability_Conditional, Value::Ability_Fixed, Value::Ability_Settable}) {
             SCOPED_TRACE(testing::Message() << "ability flag " << row.ability << " is " << ability);
             Bench bench;
-            const auto root = bench.get()->get_plotter_capabilities();
-            const auto caps = ((*root).*Domain::get_capabilities)();
-            // The other flags of its own domain stay, for the sake of what its rows ask of each other.
-            const std::wstring before = caps->get_abilities();
-            make_all_conditional(*root);
-            caps->set_abilities(before.c_str());
-            for (const auto& other : rows)
-                caps->set_one_ability(Value::Ability_Conditional, Number{other.ability});
-            caps->set_one_ability(ability, Number{row.ability});
-            row.spoil(bench);
-            const auto cfg = ((*bench.get()->get_plotter_configuration()).*Domain::get_configuration)();
-            cfg->set_validated(false);
-            cfg->set_default(false);
-
+            const auto cfg = set_up_row<Domain>(bench, row, rows, ability);
             const auto validator = bench.get()->get_plotter_validator();
             const bool validates = ability == Value::Ability_Settable;
             EXPECT_EQ(

@@ -43,13 +43,7 @@ public:
 
     // Several passes do without a method, which is then missing elsewhere.
     bool has_chosen_no_method() const {
-        if (const auto methods = io_caps()->get_method_list()) {
-            for (const auto& method : *methods) {
-                if (px_is_there(method) && method->get_type() == io_cfg()->get_type())
-                    return false;
-            }
-        }
-        return true;
+        return !px_method_of(io_caps()->get_method_list(), io_cfg()->get_type());
     }
     bool is_of_the_choice(const Thrown& thrown) const {
         const auto had = rcm_cfg()->get_rescolormem_settings();

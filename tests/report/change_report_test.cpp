@@ -65,19 +65,7 @@ std::string outcomes(Mask::Enum mask, const std::vector<Row<Bench>>& rows) {
                                                 {Value::Ability_Settable, Strategy::Use_Nearest}}) {
             Bench bench;
             use_standard(bench);
-            const auto root = bench.get()->get_plotter_capabilities();
-            const auto caps = ((*root).*Domain::get_capabilities)();
-            const std::wstring before = caps->get_abilities();
-            make_all_conditional(*root);
-            caps->set_abilities(before.c_str());
-            for (const auto& other : rows)
-                caps->set_one_ability(Value::Ability_Conditional, Number{other.ability});
-            caps->set_one_ability(ability, Number{row.ability});
-            row.spoil(bench);
-            const auto cfg = ((*bench.get()->get_plotter_configuration()).*Domain::get_configuration)();
-            cfg->set_validated(false);
-            cfg->set_default(false);
-
+            set_up_row<Domain>(bench, row, rows, ability);
             const auto report = report_of(*bench.get(), {strategy, Policy::Keep_Conditional, true});
             const PX_Datum_Change* const change = report.find({mask, row.datum});
             line += change ? ", " + told(*change) : ", missing";

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <iterator>
+#include <string>
 #include <vector>
 
 #include "tests/support/io.h"
@@ -30,6 +31,27 @@ inline void make_all_conditional(const PX_Plotter_Capabilities& caps) {
     caps.get_res_color_mem_capabilities()->set_abilities(PX_Ability_Value::Ability_Conditional);
     caps.get_init_term_capabilities()->set_abilities(PX_Ability_Value::Ability_Conditional);
     caps.get_io_capabilities()->set_abilities(PX_Ability_Value::Ability_Conditional);
+}
+
+// Gives the row's datum the ability, spoils its choice, and makes the data of all other rows conditional. No
+// flag of the domain is up in its configuration, which is returned.
+template <class Domain, class Bench>
+auto set_up_row(Bench& bench, const Row<Bench>& row, const std::vector<Row<Bench>>& rows,
+                PX_Ability_Value::Enum ability) {
+    const auto root = bench.get()->get_plotter_capabilities();
+    const auto caps = ((*root).*Domain::get_capabilities)();
+    // The other flags of its own domain stay, for the sake of what its rows ask of each other.
+    const std::wstring before = caps->get_abilities();
+    make_all_conditional(*root);
+    caps->set_abilities(before.c_str());
+    for (const auto& other : rows)
+        caps->set_one_ability(PX_Ability_Value::Ability_Conditional, Number{other.ability});
+    caps->set_one_ability(ability, Number{row.ability});
+    row.spoil(bench);
+    const auto cfg = ((*bench.get()->get_plotter_configuration()).*Domain::get_configuration)();
+    cfg->set_validated(false);
+    cfg->set_default(false);
+    return cfg;
 }
 
 // A plotter of up to 8 pens, whose user has none.

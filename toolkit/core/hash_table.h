@@ -79,12 +79,15 @@ public:
     int threshold() const { return m_threshold; }
 
 private:
+    static constexpr int load = 20;
+    static constexpr float growth = 2.0F;
+
     std::size_t bucket_of(Key key) const {
         return px_address_hash(key) & static_cast<std::uint32_t>(m_buckets - 1);
     }
 
     void grow() {
-        const int wanted = static_cast<int>(static_cast<float>(m_buckets) * m_grow);
+        const int wanted = static_cast<int>(static_cast<float>(m_buckets) * growth);
         std::unique_ptr<Entry*[]> wider(new (std::nothrow) Entry* [static_cast<std::size_t>(wanted)] {});
         if (!wider)
             return;  // longer chains serve as well
@@ -96,13 +99,11 @@ private:
         });
         m_table = std::move(wider);
         m_buckets = wanted;
-        m_threshold = static_cast<int>(static_cast<float>(m_load) * static_cast<float>(m_buckets) * 0.75F);
+        m_threshold = static_cast<int>(static_cast<float>(load) * static_cast<float>(m_buckets) * 0.75F);
     }
 
     int m_count = 0;
     int m_buckets = 32;
     int m_threshold = 480;
-    int m_load = 20;
-    float m_grow = 2.0F;
     std::unique_ptr<Entry*[]> m_table = std::make_unique<Entry*[]>(32);
 };

@@ -32,3 +32,4 @@
 #include "toolkit/marvcon/std_raster_caps.h"
 #include "toolkit/marvcon/std_res_color_mem_cfg.h"
 #include "toolkit/marvcon/std_sys_io_caps.h"
+#include "toolkit/platform/platform.h"

@@ -23,10 +23,6 @@ constexpr PX_Gate<Ability> gates[] = {{Ability::RCM_Res_Color_Mem, L"colour mode
                                       {Ability::RCM_Icm_Intent, L"colour management intent"},
                                       {Ability::RCM_Dm_Color, L"device-mode colour"}};
 
-constexpr long bit_of(Datum::Enum datum) {
-    return 1L << datum;
-}
-
 class Color_Check {
 public:
     Color_Check(const PX_ResColorMem_Capabilities& device, const PX_Findings& found)
@@ -47,9 +43,9 @@ public:
 
     void run() const {
         px_check_gates(m_device, gates, m_found);
-        px_check_names(
-            m_modes, L"", L"colour mode", m_found,
-            px_bits_if(of(Ability::RCM_Res_Color_Mem).is_validated(), bit_of(Datum::RCM_Cfg_Res_Color_Mem)));
+        px_check_names(m_modes, L"", L"colour mode", m_found,
+                       px_bits_if(of(Ability::RCM_Res_Color_Mem).is_validated(),
+                                  px_change_bit(Datum::RCM_Cfg_Res_Color_Mem)));
         px_check_names(m_device.get_mem_area_list(), L"", L"memory area", m_found);
         px_check_names(m_device.get_dithering_list(), L"", L"dithering method", m_found);
         check_modes();
@@ -75,10 +71,11 @@ private:
                     m_found.passes_over(px_named(L"colour mode", mode), Fault::No_Measure);
                 if (mode.get_color_system() == PX_Color_System::Color_System_Undefined)
                     m_found.repeats(px_named(L"colour mode", mode), Fault::Color_System_Undefined,
-                                    bit_of(Datum::RCM_Cfg_Res_Color_Mem));
+                                    px_change_bit(Datum::RCM_Cfg_Res_Color_Mem));
             });
         if (is_validated && !m_mode_is_sure)
-            m_found.repeats(L"colour mode", Fault::Default_Not_Written, bit_of(Datum::RCM_Cfg_Res_Color_Mem));
+            m_found.repeats(L"colour mode", Fault::Default_Not_Written,
+                            px_change_bit(Datum::RCM_Cfg_Res_Color_Mem));
         if (!m_mode_is_sure)
             return;
         const wchar_t* const name = m_device.get_default_res_color_mem();
@@ -87,7 +84,8 @@ private:
             m_found.throws(px_named(L"default colour mode", name), Fault::Names_Nothing, nothing_there,
                            L"rcm");
         else if (!px_is_there(preset))
-            m_found.throws(px_named(L"default colour mode", name), Fault::Names_Withdrawn, 401);
+            m_found.throws(px_named(L"default colour mode", name), Fault::Names_Withdrawn,
+                           PX_RCM_Code::Default_Mode);
     }
 
     // The searches end at the greatest number of 32 bits.
@@ -102,7 +100,8 @@ private:
         if (m_resolution_has_default && !m_mode_is_sure)
             m_found.throws(L"default resolution", Fault::Not_Ensured, nothing_there, L"rcm");
         if (m_resolution_is_validated && !m_resolution_has_default)
-            m_found.repeats(L"resolution", Fault::Default_Not_Written, bit_of(Datum::RCM_Cfg_Resolution));
+            m_found.repeats(L"resolution", Fault::Default_Not_Written,
+                            px_change_bit(Datum::RCM_Cfg_Resolution));
         const auto require = [&](bool is_needed, bool is_sure, const wchar_t* object, const wchar_t* detail) {
             if (is_needed && !is_sure)
                 m_found.throws(object, Fault::Not_Ensured, nothing_there, detail);
@@ -119,7 +118,7 @@ private:
         const std::wstring way = px_named(L"colour mode", mode);
         const auto resolutions = mode.get_resolution_list();
         px_check_names(resolutions, way, L"resolution", m_found,
-                       px_bits_if(m_resolution_is_validated, bit_of(Datum::RCM_Cfg_Resolution)));
+                       px_bits_if(m_resolution_is_validated, px_change_bit(Datum::RCM_Cfg_Resolution)));
         if (m_resolution_is_validated && !px_has_one_there(resolutions, has_measures))
             m_found.throws(px_in(way, L"resolutions"), Fault::Nothing_To_Take, nothing_there, L"resolution");
         px_for_each_named(resolutions, [&](const PX_Resolution& resolution) {
@@ -134,10 +133,10 @@ private:
         if (!preset)
             m_found.throws(object, Fault::Names_Nothing, nothing_there, L"resolution");
         else if (!px_is_there(preset))
-            m_found.throws(object, Fault::Names_Withdrawn, 403);
+            m_found.throws(object, Fault::Names_Withdrawn, PX_RCM_Code::Default_Resolution);
         else if (const auto method = dithering_of(*preset); needs_method() && !px_is_there(method))
             m_found.throws(px_in(object, px_named(L"dithering", preset->get_dithering_name())),
-                           px_fault_of_name(method), 403);
+                           px_fault_of_name(method), PX_RCM_Code::Default_Resolution);
     }
 
     static bool has_measures(const PX_Resolution& resolution) {
@@ -165,7 +164,7 @@ private:
             m_found.throws(dithering, Fault::Names_Nothing, nothing_there, L"dithering");
         // The search asks for no method: the resolution is the nearest to itself.
         if (m_resolution_is_validated && needs_method() && !px_is_there(method))
-            m_found.repeats(dithering, px_fault_of_name(method), bit_of(Datum::RCM_Cfg_Resolution));
+            m_found.repeats(dithering, px_fault_of_name(method), px_change_bit(Datum::RCM_Cfg_Resolution));
         if (!m_counts_memory)
             return;
         px_for_each_there(resolution.get_mem_area_name_list(), [&](const PX_Caps_Name_List_Object& name) {
@@ -173,7 +172,7 @@ private:
                 m_found.passes_over(px_in(way, px_named(L"memory area", name)), Fault::Names_Nothing);
         });
         if (!takes_memory(resolution, 0))
-            m_found.repeats(way, Fault::Memory_Default, bit_of(Datum::RCM_Cfg_Installed_Memory));
+            m_found.repeats(way, Fault::Memory_Default, px_change_bit(Datum::RCM_Cfg_Installed_Memory));
     }
 
     // As a run counts: up to three names at a time, of which the memory of the third counts.

@@ -23,14 +23,14 @@ public:
             m_found.throws(default_value(), Fault::Object_Missing, PX_Code::Null_Argument,
                            L"default_data_value");
         else if (!is_type(m_preset->type()))
-            m_found.throws(default_value(), Fault::Data_Type_Undefined, 701);
+            m_found.throws(default_value(), Fault::Data_Type_Undefined, PX_Custom_Code::Unknown_Type);
         if (!is_type(type)) {
             m_found.repeats(m_way, Fault::Data_Type_Undefined, 0);
         } else if (m_setting.get_verifiable() && m_setting.get_is_range_type()) {
             if (is_number)
                 check_range();
             else
-                m_found.throws(m_way, Fault::Range_Of_No_Number, 702);
+                m_found.throws(m_way, Fault::Range_Of_No_Number, PX_Custom_Code::Range_Of_No_Number);
         } else if (m_setting.get_verifiable()) {
             check_list();
         }
@@ -61,9 +61,9 @@ private:
     void check_list() const {
         const auto values = m_setting.get_value_list();
         if (!values)
-            return m_found.throws(px_in(m_way, L"values"), Fault::List_Missing, 703);
+            return m_found.throws(px_in(m_way, L"values"), Fault::List_Missing, PX_Custom_Code::No_Values);
         if (values->is_empty() || m_setting.get_num_values() <= 0)
-            return m_found.throws(px_in(m_way, L"values"), Fault::Nothing_To_Take, 703);
+            return m_found.throws(px_in(m_way, L"values"), Fault::Nothing_To_Take, PX_Custom_Code::No_Values);
         bool has_default = false;
         int place = 0;
         for (const auto& allowed : *values) {
@@ -102,7 +102,7 @@ void px_check_custom(const PX_Custom_Capabilities& device, const PX_Findings& fo
             continue;
         // Both get an item; of the withdrawn one there is no setting.
         if (px_is_there(setting) && !px_is_there(first))
-            found.throws(px_named(L"setting", *setting), Fault::Equal_Names, 704);
+            found.throws(px_named(L"setting", *setting), Fault::Equal_Names, PX_Custom_Code::No_Capability);
         else
             found.passes_over(px_named(L"setting", *setting), Fault::Equal_Names);
     }

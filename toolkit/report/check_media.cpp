@@ -30,7 +30,8 @@ public:
         const long method = m_device.get_default_media_selection_method();
         if (of(Ability::Ability_Media_Selection_Method).is_above_none() &&
             !(method & m_device.get_media_selection_methods()))
-            m_found.throws(L"default selection method", Fault::Default_Not_Offered, 321);
+            m_found.throws(L"default selection method", Fault::Default_Not_Offered,
+                           PX_Media_Code::Default_Selection_Method);
     }
 
     void check_types() const {
@@ -44,7 +45,7 @@ public:
                              L"newtype", m_found);
         });
         if (is_validated && !types)
-            m_found.throws(L"types", Fault::List_Missing, 318);
+            m_found.throws(L"types", Fault::List_Missing, PX_Media_Code::No_Types);
         else if (is_validated && !px_has_one_there(types, [](const PX_Media_Type& type) {
                      return px_is_measure(px_value(type.get_max_resolution()));
                  }))
@@ -59,7 +60,8 @@ public:
             m_found.throws(px_named(L"default type", name), Fault::Names_Nothing, PX_Code::Null_Argument,
                            L"newtype");
         else if (!px_is_there(preset))
-            m_found.throws(px_named(L"default type", name), Fault::Names_Withdrawn, 303);
+            m_found.throws(px_named(L"default type", name), Fault::Names_Withdrawn,
+                           PX_Media_Code::Default_Type);
     }
 
     void check_destinations() const {
@@ -68,7 +70,7 @@ public:
         px_check_names(destinations, L"", L"destination", m_found,
                        px_bits_if(is_validated, all_of_destination));
         if (is_validated && !destinations)
-            m_found.throws(L"destinations", Fault::List_Missing, 312);
+            m_found.throws(L"destinations", Fault::List_Missing, PX_Media_Code::No_Destinations);
         else if (is_validated && !px_has_one_there(destinations))
             m_found.throws(L"destinations", Fault::Nothing_To_Take, PX_Code::Null_Argument, L"newdest");
         px_for_each_there(destinations, [&](const PX_Media_Destination& destination) {
@@ -81,7 +83,8 @@ public:
         const wchar_t* const name = m_device.get_default_media_destination();
         const auto preset = m_device.get_media_destination(name);
         if (!px_is_there(preset))
-            m_found.throws(px_named(L"default destination", name), px_fault_of_name(preset), 311);
+            m_found.throws(px_named(L"default destination", name), px_fault_of_name(preset),
+                           PX_Media_Code::Default_Destination);
     }
 
     // Compared from any ability on, and written from the listed ones alone.
@@ -106,12 +109,14 @@ public:
 
         const long duplexing = m_device.get_default_duplexing_mode();
         if (of(Ability::Ability_Duplexing).is_above_none() && !(duplexing & m_device.get_duplexing_modes()))
-            m_found.throws(L"default duplexing mode", Fault::Default_Not_Offered, 315);
+            m_found.throws(L"default duplexing mode", Fault::Default_Not_Offered,
+                           PX_Media_Code::Default_Duplexing);
 
         const auto longplot = of(Ability::Ability_Longplot_Reduction);
         const double reduction = m_device.get_default_longplot_reduction();
         if (longplot.is_above_none() && reduction < 0.0)
-            m_found.throws(L"default longplot reduction", Fault::Default_Out_Of_Range, 317);
+            m_found.throws(L"default longplot reduction", Fault::Default_Out_Of_Range,
+                           PX_Media_Code::Default_Longplot_Reduction);
         // It is written all the same, and is not valid.
         else if (longplot.is_validated() && reduction < 1.0)
             m_found.repeats(L"default longplot reduction", Fault::Default_Out_Of_Range,
@@ -120,7 +125,7 @@ public:
         const long scale = m_device.get_default_dm_scale();
         if (of(Ability::Ability_Dm_Scale).is_above_none() &&
             (scale < px_dm_scale_min || scale > px_dm_scale_max))
-            m_found.throws(L"default scale", Fault::Default_Out_Of_Range, 316);
+            m_found.throws(L"default scale", Fault::Default_Out_Of_Range, PX_Media_Code::Default_Dm_Scale);
     }
 
 private:
@@ -155,7 +160,7 @@ private:
             !px_is_there(finishing.preset))
             m_found.throws(px_in(there, px_named((std::wstring(L"default ") + finishing.kind).c_str(),
                                                  finishing.preset_name)),
-                           px_fault_of_name(finishing.preset), 311);
+                           px_fault_of_name(finishing.preset), PX_Media_Code::Default_Destination);
         // A choice of this destination is never valid, and is the nearest to itself.
         else if (is_validated && !ability.is_none() && !px_has_one_there(finishing.list))
             m_found.repeats(px_in(there, finishing.kind), Fault::Nothing_To_Take, all_of_destination);

@@ -59,7 +59,7 @@ private:
         const bool presets = has_default(Ability::Ability_Media_Source_Default);
         px_check_names(sources, L"", L"source", m_found, px_bits_if(validated, Change::Source));
         if (validated && !sources)
-            m_found.throws(L"sources", Fault::List_Missing, 305);
+            m_found.throws(L"sources", Fault::List_Missing, PX_Media_Code::No_Sources);
         else if (validated && !px_has_one_there(sources))
             m_found.throws(L"sources", Fault::Nothing_To_Take, nothing_there, L"newsource");
         if (validated && !presets)
@@ -73,7 +73,8 @@ private:
             m_found.throws(px_named(L"default source", name), Fault::Names_Nothing, nothing_there,
                            L"newsource");
         else if (!px_is_there(preset))
-            m_found.throws(px_named(L"default source", name), Fault::Names_Withdrawn, 304);
+            m_found.throws(px_named(L"default source", name), Fault::Names_Withdrawn,
+                           PX_Media_Code::Default_Source);
     }
 
     void check_source(const PX_Media_Source& source, bool source_is_validated) const {
@@ -84,11 +85,11 @@ private:
         // Its entry is not looked at, and the size is looked for in any.
         if (!*px_text(source.get_canonical_name()) && validated && m_by_source &&
             is_validated(Ability::Ability_Media_Size))
-            m_found.throws(way, Fault::Name_Empty, 323);
+            m_found.throws(way, Fault::Name_Empty, PX_Media_Code::Entry_Missing);
         const auto entries = source.get_source_entry_list();
         px_check_names(entries, way, L"entry", m_found, px_bits_if(validated, Change::Source_Entry));
         if (validated && !entries)
-            m_found.throws(px_in(way, L"entries"), Fault::List_Missing, 322);
+            m_found.throws(px_in(way, L"entries"), Fault::List_Missing, PX_Media_Code::No_Entries);
         else if (validated && !px_has_one_there(entries, [](const PX_Media_Source_Entry& entry) {
                      return px_is_measure(extent_of(entry));
                  }))
@@ -106,7 +107,7 @@ private:
         if (!preset)
             m_found.throws(object, Fault::Names_Nothing, nothing_there, L"newentry");
         else if (!px_is_there(preset))
-            m_found.throws(object, Fault::Names_Withdrawn, 324);
+            m_found.throws(object, Fault::Names_Withdrawn, PX_Media_Code::Default_Entry);
     }
 
     static PX_Float_XY extent_of(const PX_Media_Source_Entry& entry) {
@@ -125,11 +126,12 @@ private:
         if (entry_is_validated && !entry_has_default)
             m_found.repeats(L"source entry", Fault::Default_Not_Written, Change::Source_Entry);
         if (m_by_source && size_is_validated && !source_is_sure)
-            m_found.throws(L"size by source", Fault::Not_Ensured, 308);
+            m_found.throws(L"size by source", Fault::Not_Ensured, PX_Media_Code::Source_Missing);
         if (m_by_source && size_is_validated && !entry_has_default)
-            m_found.throws(L"size by source", Fault::Not_Ensured, 323);
+            m_found.throws(L"size by source", Fault::Not_Ensured, PX_Media_Code::Entry_Missing);
         if (m_by_source && size_has_default && !(source_is_sure && entry_has_default))
-            m_found.throws(L"default size by source", Fault::Not_Ensured, 309);
+            m_found.throws(L"default size by source", Fault::Not_Ensured,
+                           PX_Media_Code::Default_Size_Of_Source);
         if (size_is_validated && !size_has_default)
             m_found.repeats(L"size", Fault::Default_Not_Written, Change::Size);
         // Size and margins have one gate.
@@ -144,7 +146,7 @@ private:
         px_check_names(sizes, L"", L"size", m_found,
                        px_bits_if(is_validated(Ability::Ability_Media_Size), Change::Size));
         if (m_directly && is_validated(Ability::Ability_Media_Size) && !sizes)
-            m_found.throws(L"sizes", Fault::List_Missing, 320);
+            m_found.throws(L"sizes", Fault::List_Missing, PX_Media_Code::No_Sizes);
         px_for_each_there(sizes, [&](const PX_Media_Size& size) { check_size(size); });
         px_for_each_named(sizes, [&](const PX_Media_Size& size) {
             if (!px_is_withdrawn(size) || !has_default(Ability::Ability_Media_Size_Default))
@@ -283,7 +285,8 @@ private:
             if (px_is_there(size))
                 check_default_description(*size, px_named(L"default size", name));
             else
-                m_found.throws(px_named(L"default size", name), px_fault_of_name(size), 310);
+                m_found.throws(px_named(L"default size", name), px_fault_of_name(size),
+                               PX_Media_Code::Default_Size);
         }
         if (m_by_source)
             for_each_entry([&](const PX_Media_Source_Entry& entry, const std::wstring& way) {
@@ -297,9 +300,9 @@ private:
         const auto names = entry.get_media_size_name_list();
         const std::wstring object = px_in(way, px_named(L"default size", name));
         if (!px_is_there(size))
-            m_found.throws(object, px_fault_of_name(size), 309);
+            m_found.throws(object, px_fault_of_name(size), PX_Media_Code::Default_Size_Of_Source);
         else if (!names || !px_is_there(names->find(name)))
-            m_found.throws(object, Fault::Default_Not_Offered, 309);
+            m_found.throws(object, Fault::Default_Not_Offered, PX_Media_Code::Default_Size_Of_Source);
         else
             check_default_description(*size, object);
     }

@@ -1,4 +1,5 @@
-#include <cwchar>
+#include <algorithm>
+#include <string_view>
 
 #include "toolkit/report/domain_checks.h"
 
@@ -42,17 +43,12 @@ const wchar_t* name_of(Type::Enum type) {
     return L"unknown";
 }
 
-// Data bits, parity, stop bits, as the names of protocols that a port can have are put together.
+// Whether a port can have a protocol of the name.
 bool is_usual_name(const wchar_t* name) {
-    for (const wchar_t* const bits : {L"5", L"6", L"7", L"8", L"16", L"16X"}) {
-        for (const wchar_t* const parity : {L"N", L"O", L"E", L"M", L"S"}) {
-            for (const wchar_t* const stop : {L"1", L"1.5", L"2"}) {
-                if (std::wstring(bits) + parity + stop == px_text(name))
-                    return true;
-            }
-        }
-    }
-    return false;
+    return std::ranges::any_of(px_framings,
+                               [wanted = std::wstring_view(px_text(name))](const PX_Framing& framing) {
+                                   return framing.name() == wanted;
+                               });
 }
 
 class Output_Check {
@@ -91,14 +87,7 @@ private:
 
     // As a run finds it.
     PX_Smart_Pointer<PX_IO_Method> method_of(Type::Enum type) const {
-        const auto methods = m_has_methods ? m_device.get_method_list() : nullptr;
-        if (methods) {
-            for (const auto& method : *methods) {
-                if (px_is_there(method) && method->get_type() == type)
-                    return method;
-            }
-        }
-        return nullptr;
+        return m_has_methods ? px_method_of(m_device.get_method_list(), type) : nullptr;
     }
     static std::wstring way_to(Type::Enum type) { return px_named(L"method", name_of(type)); }
 
@@ -118,7 +107,7 @@ private:
         }
         // When the channel is set up.
         if (methods->is_empty())
-            m_found.throws(L"methods", Fault::Nothing_To_Take, 210);
+            m_found.throws(L"methods", Fault::Nothing_To_Take, PX_IO_Code::No_Methods);
         for (const auto& method : *methods) {
             if (px_is_there(method) && method_of(method->get_type()) != method)
                 m_found.passes_over(way_to(method->get_type()), Fault::Equal_Names);
@@ -190,7 +179,7 @@ private:
             // Put to its default, it is empty; no other is near.
             if (has_protocol) {
                 m_found.repeats(L"protocol", Fault::Method_Missing, Change::Protocol);
-                m_found.throws(L"nearest protocol", Fault::Method_Missing, 217);
+                m_found.throws(L"nearest protocol", Fault::Method_Missing, PX_IO_Code::No_Usable_Protocol);
             }
             if (has_rate)
                 m_found.repeats(L"baud rate", Fault::Method_Missing, Change::Baud_Rate);
@@ -224,7 +213,7 @@ private:
         });
         const wchar_t* const preset = method.get_default_protocol();
         if (!has_one)
-            m_found.throws(px_in(way, L"protocols"), Fault::Nothing_To_Take, 217);
+            m_found.throws(px_in(way, L"protocols"), Fault::Nothing_To_Take, PX_IO_Code::No_Usable_Protocol);
         else if (!px_is_there(method.get_protocol(preset)))
             m_found.passes_over(px_in(way, px_named(L"default protocol", preset)),
                                 Fault::Default_Not_Offered);
@@ -246,10 +235,10 @@ private:
         }
         const std::wstring object = px_in(way, L"default baud rate");
         if (usable == 0)
-            m_found.throws(px_in(way, L"baud rates"), Fault::Nothing_To_Take, 215);
+            m_found.throws(px_in(way, L"baud rates"), Fault::Nothing_To_Take, PX_IO_Code::No_Usable_Rate);
         // Put to the default again, the one rate has no other beside it; of several, another comes each time.
         else if (!has_default && usable == 1)
-            m_found.throws(object, Fault::Default_Not_Offered, 215);
+            m_found.throws(object, Fault::Default_Not_Offered, PX_IO_Code::No_Usable_Rate);
         else if (!has_default)
             m_found.passes_over(object, Fault::Default_Not_Offered);
     }
@@ -265,9 +254,10 @@ private:
         const bool has_line = m_has_ports && m_preset == Type::Serial && method;
         if (has(Ability::IO_Protocol)) {
             if (!method)
-                m_found.throws(way, Fault::Method_Missing, 217);
+                m_found.throws(way, Fault::Method_Missing, PX_IO_Code::No_Usable_Protocol);
             else if (has(*method, Method_Ability::Method_Default_Protocol) && !has_line)
-                m_found.throws(px_in(way, L"default protocol"), Fault::Type_Never_Valid, 217);
+                m_found.throws(px_in(way, L"default protocol"), Fault::Type_Never_Valid,
+                               PX_IO_Code::No_Usable_Protocol);
         }
         if (has(Ability::IO_Baud_Rate) && !has_line &&
             (!method || has(*method, Method_Ability::Method_Default_Baud_Rate))) {
@@ -275,7 +265,7 @@ private:
             if (!m_has_ports || !has(Ability::IO_Type))
                 m_found.throws(object, Fault::Type_Never_Valid, PX_Code::No_Memory, L"workratelist");
             else if (is_of_a_port())
-                m_found.throws(object, Fault::Type_Never_Valid, 215);
+                m_found.throws(object, Fault::Type_Never_Valid, PX_IO_Code::No_Usable_Rate);
         }
     }
 

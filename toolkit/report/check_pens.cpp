@@ -31,9 +31,10 @@ void px_check_pens(const PX_PhysPen_Capabilities& device, const PX_Findings& fou
 
     // Looked at whatever the abilities are.
     if (device.get_default_num_of_phys_pens() > device.get_max_number_of_physical_pens())
-        found.throws(L"default number of pens", Fault::Default_Out_Of_Range, 611);
+        found.throws(L"default number of pens", Fault::Default_Out_Of_Range, PX_Pen_Code::Default_Number);
     if (device.get_default_pen_optimization() > device.get_max_pen_optimization())
-        found.throws(L"default pen optimization", Fault::Default_Out_Of_Range, 610);
+        found.throws(L"default pen optimization", Fault::Default_Out_Of_Range,
+                     PX_Pen_Code::Default_Optimization);
 
     // A list is made for any number, and shortened to the greatest.
     const bool number_has_default =

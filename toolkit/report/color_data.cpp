@@ -72,10 +72,9 @@ using Domain = PX_Report_Domain<PX_Domain_Mask::Res_Color_Mem,
                                 &PX_Plotter_Capabilities::get_res_color_mem_capabilities,
                                 &PX_Plotter_Validator::get_res_color_mem_cfg_changes>;
 
-// The bit of a datum is 1 shifted by its number.
 template <auto source, Ability::Enum ability, Cfg::Enum flag>
 PX_Report_Datum row(const char* name, PX_Repair repair = PX_Repair::To_Default) {
-    return Domain::row<source, ability, flag>(name, 1L << flag, repair);
+    return Domain::row<source, ability, flag>(name, px_change_bit(flag), repair);
 }
 
 template <class Score>

@@ -63,7 +63,8 @@ void px_check_gates(const Capabilities& capabilities, const PX_Gate<Flags> (&gat
                     const PX_Findings& found) {
     for (const PX_Gate<Flags>& gate : gates) {
         if (PX_Ability_Of(capabilities.get_one_ability(gate.flag)).is_undefined())
-            found.throws(std::wstring(L"ability of the ") + gate.datum, PX_Fault::Ability_Undefined, 1001);
+            found.throws(std::wstring(L"ability of the ") + gate.datum, PX_Fault::Ability_Undefined,
+                         PX_Code::Bad_Ability);
     }
 }
 

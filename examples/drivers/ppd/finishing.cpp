@@ -128,36 +128,52 @@ When when(const Finish& choice) {
     return static_cast<When>(choice.does_nothing ? 0 : 1);
 }
 
-}  // namespace
+// How a file's sheets are finished, and what its destinations offer of that.
+struct All_Finishing {
+    template <class Entry>
+    using List = PX_Smart_Pointer<PX_Named_Object_List<Entry>>;
 
-void ppd_fill_destinations(const Ppd_File& file, const Factory& factory,
-                           PX_Media_Capabilities& capabilities) {
-    const Finishing collated = finishing_of(file, ppd_collate), stapled = finishing_of(file, ppd_staple);
-    const Finishing cut_off = finishing_of(file, ppd_cut), folded = finishing_of(file, ppd_fold);
-    const auto collating_list =
-        listed(collated.choices, factory, &Factory::MK_Create_Media_Collating_List,
+    Finishing collated, stapled, cut_off, folded;
+    List<PX_Media_Collating> collating_list{};
+    List<PX_Media_Stapling> stapling_list{};
+    List<PX_Media_Cutting> cutting_list{};
+    List<PX_Media_Folding> folding_list{};
+};
+
+All_Finishing all_finishing_of(const Ppd_File& file, const Factory& factory) {
+    All_Finishing all = {finishing_of(file, ppd_collate), finishing_of(file, ppd_staple),
+                         finishing_of(file, ppd_cut), finishing_of(file, ppd_fold)};
+    all.collating_list =
+        listed(all.collated.choices, factory, &Factory::MK_Create_Media_Collating_List,
                &Factory::MK_Create_Media_Collating, [](PX_Media_Collating& option, const Finish& choice) {
                    option.set_collating_type(number_of(choice, PX_Media_Collating_Type::Collating_Type_0));
                });
-    const auto stapling_list =
-        listed(stapled.choices, factory, &Factory::MK_Create_Media_Stapling_List,
+    all.stapling_list =
+        listed(all.stapled.choices, factory, &Factory::MK_Create_Media_Stapling_List,
                &Factory::MK_Create_Media_Stapling, [](PX_Media_Stapling& option, const Finish& choice) {
                    option.set_stapling_location(
                        number_of(choice, PX_Media_Stapling_Location::Stapling_Location_None));
                    option.set_stapling_when(when<PX_Media_Stapling_When::Enum>(choice));
                });
-    const auto cutting_list =
-        listed(cut_off.choices, factory, &Factory::MK_Create_Media_Cutting_List,
+    all.cutting_list =
+        listed(all.cut_off.choices, factory, &Factory::MK_Create_Media_Cutting_List,
                &Factory::MK_Create_Media_Cutting, [](PX_Media_Cutting& option, const Finish& choice) {
                    option.set_cutting_when(number_of(choice, PX_Media_Cutting_When::Cutting_When_0));
                });
-    const auto folding_list =
-        listed(folded.choices, factory, &Factory::MK_Create_Media_Folding_List,
+    all.folding_list =
+        listed(all.folded.choices, factory, &Factory::MK_Create_Media_Folding_List,
                &Factory::MK_Create_Media_Folding, [](PX_Media_Folding& option, const Finish& choice) {
                    option.set_folding_type(number_of(choice, PX_Media_Folding_Type::Folding_Type_None));
                    option.set_folding_when(when<PX_Media_Folding_When::Enum>(choice));
                });
+    return all;
+}
 
+}  // namespace
+
+void ppd_fill_destinations(const Ppd_File& file, const Factory& factory,
+                           PX_Media_Capabilities& capabilities) {
+    const All_Finishing all = all_finishing_of(file, factory);
     bool finishes = false;
     const auto allow_finishing = [&](const Finishing& finishing, Ability::Enum flag) {
         if (finishing.choices.empty())
@@ -165,10 +181,10 @@ void ppd_fill_destinations(const Ppd_File& file, const Factory& factory,
         finishes = true;
         capabilities.set_one_ability(Value::Ability_Settable_Listed, flag);
     };
-    allow_finishing(collated, Ability::Ability_Media_Collating);
-    allow_finishing(stapled, Ability::Ability_Media_Stapling);
-    allow_finishing(cut_off, Ability::Ability_Media_Cutting);
-    allow_finishing(folded, Ability::Ability_Media_Folding);
+    allow_finishing(all.collated, Ability::Ability_Media_Collating);
+    allow_finishing(all.stapled, Ability::Ability_Media_Stapling);
+    allow_finishing(all.cut_off, Ability::Ability_Media_Cutting);
+    allow_finishing(all.folded, Ability::Ability_Media_Folding);
 
     Ppd_Option bins = file.option("OutputBin");
     if (bins.choices.empty() && finishes)
@@ -176,14 +192,14 @@ void ppd_fill_destinations(const Ppd_File& file, const Factory& factory,
     const auto destinations =
         listed(bins.choices, factory, &Factory::MK_Create_Media_Destination_List,
                &Factory::MK_Create_Media_Destination, [&](PX_Media_Destination& bin, const Ppd_Choice&) {
-                   bin.set_collating_list(collating_list.get());
-                   bin.set_default_collating(collated.default_choice.c_str());
-                   bin.set_stapling_list(stapling_list.get());
-                   bin.set_default_stapling(stapled.default_choice.c_str());
-                   bin.set_cutting_list(cutting_list.get());
-                   bin.set_default_cutting(cut_off.default_choice.c_str());
-                   bin.set_folding_list(folding_list.get());
-                   bin.set_default_folding(folded.default_choice.c_str());
+                   bin.set_collating_list(all.collating_list.get());
+                   bin.set_default_collating(all.collated.default_choice.c_str());
+                   bin.set_stapling_list(all.stapling_list.get());
+                   bin.set_default_stapling(all.stapled.default_choice.c_str());
+                   bin.set_cutting_list(all.cutting_list.get());
+                   bin.set_default_cutting(all.cut_off.default_choice.c_str());
+                   bin.set_folding_list(all.folding_list.get());
+                   bin.set_default_folding(all.folded.default_choice.c_str());
                });
     capabilities.set_media_destination_list(destinations.get());
     capabilities.set_default_media_destination(bins.default_choice.c_str());

@@ -2,7 +2,6 @@
 
 #include <cwchar>
 #include <initializer_list>
-#include <iterator>
 #include <utility>
 
 #include "examples/common/made.h"

@@ -122,6 +122,6 @@ void px_store_custom_data(PX_Smart_Pointer<PX_Custom_Data>& field, const PX_Cust
         // There is no copy then.
     }
     if (!is_known)
-        throw MVNK_Error(701, function, nullptr, file_tag);
+        throw MVNK_Error(PX_Custom_Code::Unknown_Type, function, nullptr, file_tag);
     px_store_made(field, copy, function, detail, file_tag);
 }

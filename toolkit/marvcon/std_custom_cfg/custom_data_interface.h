@@ -6,6 +6,16 @@
 
 inline constexpr PX_Source px_std_custom_cfg_source = PX_SOURCE(L"std_custom_cfg");
 
+// Numbers that the domain's failures carry; each is that of its text.
+struct PX_Custom_Code {
+    static constexpr unsigned int Unknown_Type = 701;
+    static constexpr unsigned int Range_Of_No_Number = 702;
+    static constexpr unsigned int No_Values = 703;
+    static constexpr unsigned int No_Capability = 704;
+    static constexpr unsigned int No_Item = 705;
+    static constexpr unsigned int No_Items = 706;
+};
+
 // Which of the five classes a value is of.
 struct PX_Data_Type {
     enum Enum : int {

@@ -10,12 +10,6 @@ using Strategy = PX_Validation_Strategy;
 
 namespace {
 
-constexpr unsigned int no_number = 702;
-constexpr unsigned int no_values = 703;
-constexpr unsigned int no_capability = 704;
-constexpr unsigned int no_item = 705;
-constexpr unsigned int no_items = 706;
-
 constexpr const wchar_t* nothing_to_work_on = L"workitem or workcapitem";
 
 class Custom_Datum : public PX_Datum<PX_Custom_Domain> {
@@ -71,7 +65,7 @@ private:
             if (const auto* const number = dynamic_cast<const PX_Double_Custom_Data*>(&value))
                 return number->data();
         }
-        fail(no_number);
+        fail(PX_Custom_Code::Range_Of_No_Number);
     }
 
     // What is not a number lies in every range.
@@ -83,7 +77,7 @@ private:
     bool is_listed(const PX_Custom_Capability& capability, const PX_Custom_Data& value) const {
         const auto list = capability.get_value_list();
         if (capability.get_num_values() <= 0 || !list || list->is_empty())
-            fail(no_values);
+            fail(PX_Custom_Code::No_Values);
         for (const auto& allowed : *list) {
             const auto data = px_is_there(allowed) ? allowed->get_data_value() : nullptr;
             // The allowed value stands on the left, whose length counts.
@@ -121,15 +115,15 @@ void PX_Std_Custom_Validator::validate_named_custom(Strategy::Enum /*strategy*/,
     const Custom_Datum datum(m_plotter, L"PX_Std_Custom_Validator::validate_named_custom");
     const auto list = datum.configuration->get_custom_list();
     if (!list || list->is_empty())
-        datum.fail(no_items);
+        datum.fail(PX_Custom_Code::No_Items);
     const auto item = name ? datum.configuration->get_custom(name) : nullptr;
     if (!item)
-        datum.fail(no_item);
+        datum.fail(PX_Custom_Code::No_Item);
     if (item->get_validated())
         return;
     const auto capability = datum.capabilities->get_custom(name);
     if (!px_is_there(capability))
-        datum.fail(no_capability);
+        datum.fail(PX_Custom_Code::No_Capability);
     if (!datum.is_good(*capability, *item)) {
         const auto default_value = datum.required_default(*capability);
         const auto validator = datum.required_validator();

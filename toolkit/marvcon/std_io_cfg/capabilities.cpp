@@ -4,9 +4,6 @@ namespace {
 
 constexpr const wchar_t* file_tag = px_std_io_cfg_source.file_tag;
 
-// The driver has no way at all to its device.
-constexpr unsigned int no_methods = 210;
-
 }  // namespace
 
 PX_Plotter_IO_Capabilities::~PX_Plotter_IO_Capabilities() = default;
@@ -25,7 +22,7 @@ PX_Smart_Pointer<PX_IO_Method> PX_Std_Plotter_IO_Capabilities::get_method(PX_IO_
         return nullptr;
     px_require_argument(m_method_list, function, L"m_method_list", file_tag);
     if (m_method_list->is_empty())
-        throw MVNK_Error(no_methods, function, nullptr, file_tag);
+        throw MVNK_Error(PX_IO_Code::No_Methods, function, nullptr, file_tag);
     for (const auto& method : *m_method_list) {
         if (method && method->get_type() == type)
             return method;

@@ -26,11 +26,7 @@ public:
             return nullptr;
         const auto methods = capabilities->get_method_list();
         require_made(methods, detail);
-        for (const auto& method : *methods) {
-            if (px_is_there(method) && method->get_type() == type)
-                return method;
-        }
-        return nullptr;
+        return px_method_of(methods, type);
     }
     PX_Smart_Pointer<PX_IO_Method> configured_method(const wchar_t* detail = L"workmethlist") const {
         return method_of(configuration->get_type(), detail);
@@ -66,10 +62,17 @@ inline bool px_has(const PX_IO_Method& method, PX_IO_Method_Ability_Flags::Enum 
 
 // Whether a side, a method or a port, offers the protocol, the rate, all of the handshakes. A side that is
 // missing offers nothing.
+using PX_Protocols = PX_Smart_Pointer<PX_Named_Object_List<PX_Protocol>>;
+template <class Side>
+PX_Protocols px_protocols_of(const PX_Smart_Pointer<Side>& side) {
+    return side ? side->get_protocol_list() : nullptr;
+}
+inline bool px_has_protocol(const PX_Protocols& protocols, const wchar_t* name) {
+    return name && protocols && px_is_there(protocols->find(name));
+}
 template <class Side>
 bool px_offers_protocol(const PX_Smart_Pointer<Side>& side, const wchar_t* name) {
-    const auto protocols = side ? side->get_protocol_list() : nullptr;
-    return name && protocols && px_is_there(protocols->find(name));
+    return px_has_protocol(px_protocols_of(side), name);
 }
 template <class Side>
 bool px_offers_rate(const PX_Smart_Pointer<Side>& side, long rate) {

@@ -131,6 +131,13 @@ struct PX_IO_Change {
     };
 };
 
+// Numbers that the domain's failures carry; each is that of its text.
+struct PX_IO_Code {
+    static constexpr unsigned int No_Methods = 210;
+    static constexpr unsigned int No_Usable_Rate = 215;
+    static constexpr unsigned int No_Usable_Protocol = 217;
+};
+
 class PX_EXPORT PX_Plotter_IO_Abilities : public PX_Flag_Set<PX_Abilities, PX_Plotter_IO_Ability_Flags> {};
 class PX_EXPORT PX_IO_Method_Abilities : public PX_Flag_Set<PX_Abilities, PX_IO_Method_Ability_Flags> {};
 class PX_EXPORT PX_IO_Port_Abilities : public PX_Flag_Set<PX_Abilities, PX_IO_Port_Ability_Flags> {};

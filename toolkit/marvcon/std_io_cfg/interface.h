@@ -39,6 +39,19 @@ public:
     virtual PX_Plotter_IO_Capabilities* clone() const = 0;
 };
 
+// The first method of the type that is there, as a run looks for it; null when there is none. No list has
+// none.
+inline PX_Smart_Pointer<PX_IO_Method> px_method_of(const PX_Smart_Pointer<PX_Object_List<PX_IO_Method>>& list,
+                                                   PX_IO_Type::Enum type) {
+    if (list) {
+        for (const auto& method : *list) {
+            if (px_is_there(method) && method->get_type() == type)
+                return method;
+        }
+    }
+    return nullptr;
+}
+
 // What the user chose. Each setter marks its datum as neither validated nor default, but for the two
 // booleans, which are no data of the walk. A null text is the empty one. A flag outside the enum throws
 // PX_Severe_Error 1104.

@@ -1,9 +1,8 @@
 #include <cstdint>
-#include <iterator>
 #include <string>
 
 #include "toolkit/marvcon/std_io_cfg/datum.h"
-#include "toolkit/marvcon/std_io_cfg/protocol_name.h"
+#include "toolkit/marvcon/std_io_cfg/line_settings.h"
 #include "toolkit/marvcon/std_io_cfg/validator.h"
 
 // What comes nearest to a choice means another thing for each datum.
@@ -14,8 +13,6 @@ using Type = PX_IO_Type;
 
 namespace {
 
-constexpr unsigned int no_usable_rate = 215;
-constexpr unsigned int no_usable_protocol = 217;
 constexpr std::int32_t no_rate_above = 0x7FFFFFFF;
 
 // The two local types replace each other, and no other type.
@@ -49,14 +46,12 @@ bool take_port_of_other_type(const PX_IO_Datum& datum) {
 // The widest framing, highest parity and longest stop that both sides offer; empty for none.
 std::wstring nearest_protocol(const PX_Smart_Pointer<PX_IO_Method>& method,
                               const PX_Smart_Pointer<PX_IO_Port>& port) {
-    for (auto bits = std::rbegin(px_data_bits); bits != std::rend(px_data_bits); ++bits) {
-        for (auto parity = std::rbegin(px_parities); parity != std::rend(px_parities); ++parity) {
-            for (auto stop = std::rbegin(px_stop_bits); stop != std::rend(px_stop_bits); ++stop) {
-                std::wstring name = px_protocol_name(bits->text, parity->text, stop->text);
-                if (px_offers_protocol(method, name.c_str()) && px_offers_protocol(port, name.c_str()))
-                    return name;
-            }
-        }
+    const auto of_method = px_protocols_of(method);
+    const auto of_port = px_protocols_of(port);
+    for (auto framing = px_framings.rbegin(); framing != px_framings.rend(); ++framing) {
+        std::wstring name = framing->name();
+        if (px_has_protocol(of_method, name.c_str()) && px_has_protocol(of_port, name.c_str()))
+            return name;
     }
     return {};
 }
@@ -98,7 +93,7 @@ void PX_Std_Plotter_IO_Validator::set_protocol_to_nearest() {
         name = nearest_protocol(method, datum.configured_port());
     datum.configuration->set_protocol(name.c_str());
     if (name.empty())
-        datum.fail(no_usable_protocol);
+        datum.fail(PX_IO_Code::No_Usable_Protocol);
 }
 
 void PX_Std_Plotter_IO_Validator::set_baud_rate_to_nearest() {
@@ -123,7 +118,7 @@ void PX_Std_Plotter_IO_Validator::set_baud_rate_to_nearest() {
     }
     datum.configuration->set_baud_rate(best);
     if (best == 0)
-        datum.fail(no_usable_rate);
+        datum.fail(PX_IO_Code::No_Usable_Rate);
 }
 
 void PX_Std_Plotter_IO_Validator::set_input_timeout_to_nearest() {

@@ -8,6 +8,7 @@
 #include "toolkit/marvcon/std_meta_cfg/interface.h"
 #include "toolkit/platform/floating_point_guard.h"
 #include "toolkit/platform/platform.h"
+#include "toolkit/platform/printers.h"
 
 using Ability = PX_Plotter_IO_Ability_Flags;
 using Method_Ability = PX_IO_Method_Ability_Flags;
@@ -30,11 +31,8 @@ bool is_system_driver(const PX_Meta_Capabilities& meta) {
 
 // Whether the machine has a printer of that name now.
 bool can_be_opened(const wchar_t* printer) {
-    if (!printer || !*printer)
-        return false;
-    HANDLE handle = nullptr;
-    // The spooler does not write into the name.
-    if (!PX_Get_Platform().OpenPrinterW(const_cast<wchar_t*>(printer), &handle, nullptr))
+    const HANDLE handle = px_open_printer(printer);
+    if (handle == INVALID_HANDLE_VALUE)
         return false;
     PX_Get_Platform().ClosePrinter(handle);
     return true;

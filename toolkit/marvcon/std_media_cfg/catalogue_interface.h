@@ -1,11 +1,11 @@
 #pragma once
 
+#include "toolkit/core/caps_name.h"
 #include "toolkit/core/caps_type.h"
 #include "toolkit/core/exception.h"
 #include "toolkit/core/object_list.h"
 #include "toolkit/host/geometry.h"
 #include "toolkit/marvcon/std_media_cfg/values.h"
-#include "toolkit/marvcon/std_meta_cfg/interface.h"
 
 // What a device offers on the paper side. Nothing in the catalogue points at anything else: a reference is a
 // canonical name.

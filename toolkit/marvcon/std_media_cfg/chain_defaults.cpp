@@ -13,7 +13,7 @@ void PX_Std_Media_Validator::set_selection_method_to_default() {
         datum.call([&] { datum.configuration->set_media_selection_method(method); });
         // The value stays written.
         if (!(method & datum.capabilities->get_media_selection_methods()))
-            datum.fail(321);
+            datum.fail(PX_Media_Code::Default_Selection_Method);
     }
     datum.settle_default(Cfg::Cfg_Selection_Method);
 }
@@ -27,7 +27,7 @@ void PX_Std_Media_Validator::set_type_to_default() {
         const auto type = datum.capabilities->get_media_type(datum.capabilities->get_default_media_type());
         datum.call([&] { datum.configuration->set_media_type(type.get()); });
         if (!px_is_there(datum.capabilities->get_media_type(datum.configuration->get_media_type())))
-            datum.fail(303);
+            datum.fail(PX_Media_Code::Default_Type);
     }
     datum.settle_default(Cfg::Cfg_Media_Type);
 }
@@ -39,7 +39,7 @@ void PX_Std_Media_Validator::set_source_to_default() {
             datum.capabilities->get_media_source(datum.capabilities->get_default_media_source());
         datum.call([&] { datum.configuration->set_media_source(source.get()); });
         if (!px_is_there(px_configured_source(datum)))
-            datum.fail(304);
+            datum.fail(PX_Media_Code::Default_Source);
     }
     datum.settle_default(Cfg::Cfg_Media_Source);
 }
@@ -51,7 +51,7 @@ void PX_Std_Media_Validator::set_source_entry_to_default() {
         const auto entry = source ? source->get_source_entry(source->get_default_source_entry()) : nullptr;
         datum.call([&] { datum.configuration->set_media_source_entry(entry.get()); });
         if (!px_is_there(px_configured_entry(datum, source)))
-            datum.fail(324);
+            datum.fail(PX_Media_Code::Default_Entry);
     }
     datum.settle_default(Cfg::Cfg_Media_Source_Entry);
 }
@@ -63,17 +63,17 @@ PX_Smart_Pointer<PX_Media_Size> default_size(const PX_Media_Datum& datum) {
     if (!px_is_by_source(datum)) {
         auto size = datum.capabilities->get_media_size(datum.capabilities->get_default_media_size());
         if (!px_is_there(size))
-            datum.fail(310);
+            datum.fail(PX_Media_Code::Default_Size);
         return size;
     }
     const auto entry = px_configured_entry(datum, px_configured_source(datum));
     if (!px_is_there(entry))
-        datum.fail(309);
+        datum.fail(PX_Media_Code::Default_Size_Of_Source);
     const wchar_t* const name = entry->get_default_media_size();
     const auto names = entry->get_media_size_name_list();
     auto size = datum.capabilities->get_media_size(name);
     if (!names || !px_is_there(names->find(name)) || !px_is_there(size))
-        datum.fail(309);
+        datum.fail(PX_Media_Code::Default_Size_Of_Source);
     return size;
 }
 
@@ -98,7 +98,7 @@ void PX_Std_Media_Validator::set_destination_to_default() {
         auto& cfg = *datum.configuration;
         const auto usable = [&](auto option) {
             if (!px_is_there(option))
-                datum.fail(311);
+                datum.fail(PX_Media_Code::Default_Destination);
             return option;
         };
         const auto destination = usable(caps.get_media_destination(caps.get_default_media_destination()));

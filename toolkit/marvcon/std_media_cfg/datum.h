@@ -23,7 +23,7 @@ inline bool px_is_by_source(const PX_Media_Datum& datum) {
 inline PX_Smart_Pointer<PX_Media_Settings> px_media_snapshot(const PX_Media_Datum& datum) {
     auto settings = datum.configuration->get_media_settings();
     if (!settings)
-        datum.fail(319);
+        datum.fail(PX_Media_Code::No_Settings);
     return settings;
 }
 

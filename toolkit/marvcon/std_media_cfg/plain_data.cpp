@@ -119,7 +119,7 @@ void PX_Std_Media_Validator::set_duplexing_to_default() {
     if (datum.is_above_none(Ability::Ability_Duplexing)) {
         const auto mode = datum.capabilities->get_default_duplexing_mode();
         if (!(mode & datum.capabilities->get_duplexing_modes()))
-            datum.fail(315);
+            datum.fail(PX_Media_Code::Default_Duplexing);
         datum.call([&] { datum.configuration->set_duplexing_mode(mode); });
     }
     datum.settle_default(Cfg::Cfg_Duplexing);
@@ -131,7 +131,7 @@ void PX_Std_Media_Validator::set_longplot_reduction_to_default() {
         const double factor = datum.capabilities->get_default_longplot_reduction();
         // Accepted from 0.0 on, though a factor below 1.0 fails at the next run: a driver gives at least 1.0.
         if (factor < 0.0)
-            datum.fail(317);
+            datum.fail(PX_Media_Code::Default_Longplot_Reduction);
         datum.call([&] { datum.configuration->set_longplot_reduction(factor); });
     }
     datum.settle_default(Cfg::Cfg_Longplot_Reduction);
@@ -142,7 +142,7 @@ void PX_Std_Media_Validator::set_dm_scale_to_default() {
     if (datum.is_above_none(Ability::Ability_Dm_Scale)) {
         const long scale = datum.capabilities->get_default_dm_scale();
         if (scale < px_dm_scale_min || scale > px_dm_scale_max)
-            datum.fail(316);
+            datum.fail(PX_Media_Code::Default_Dm_Scale);
         datum.call([&] { datum.configuration->set_dm_scale(scale); });
     }
     datum.settle_default(Cfg::Cfg_Dm_Scale);

@@ -27,7 +27,7 @@ void PX_Std_Media_Validator::validate_type(Strategy::Enum strategy) {
     const PX_Media_Datum datum(m_plotter, L"PX_Std_Media_Validator::validate_type");
     const auto types = datum.capabilities->get_media_type_list();
     if (!types)
-        datum.fail(318);
+        datum.fail(PX_Media_Code::No_Types);
     const auto stands = [&] {
         const wchar_t* const name = datum.configuration->get_media_type();
         const auto type = types->find(name) ? datum.capabilities->get_media_type(name) : nullptr;
@@ -46,7 +46,7 @@ void PX_Std_Media_Validator::validate_source(Strategy::Enum strategy) {
     const PX_Media_Datum datum(m_plotter, L"PX_Std_Media_Validator::validate_source");
     const auto sources = datum.capabilities->get_media_source_list();
     if (!sources)
-        datum.fail(305);
+        datum.fail(PX_Media_Code::No_Sources);
     const auto stands = [&] {
         const auto source = sources->find(datum.configuration->get_media_source());
         if (!px_is_there(source))
@@ -71,7 +71,7 @@ void PX_Std_Media_Validator::validate_source_entry(Strategy::Enum strategy) {
         datum.call([&] { datum.configuration->set_media_source_entry(nullptr); });
     const auto entries = source->get_source_entry_list();
     if (!entries)
-        datum.fail(322);
+        datum.fail(PX_Media_Code::No_Entries);
     const auto stands = [&] {
         const auto entry = entries->find(datum.configuration->get_media_source_entry());
         if (!px_is_there(entry))
@@ -109,10 +109,10 @@ bool sheet_fits(const PX_Media_Datum& datum, Fits fits) {
 bool is_offered_by_source(const PX_Media_Datum& datum) {
     const auto source = px_configured_source(datum);
     if (!px_is_there(source))
-        datum.fail(308);
+        datum.fail(PX_Media_Code::Source_Missing);
     const auto entry = px_configured_entry(datum, source);
     if (!px_is_there(entry))
-        datum.fail(323);
+        datum.fail(PX_Media_Code::Entry_Missing);
     const auto names = entry->get_media_size_name_list();
     if (!names || !px_is_there(names->find(datum.configuration->get_media_size())))
         return false;
@@ -127,7 +127,7 @@ bool is_offered_by_source(const PX_Media_Datum& datum) {
 bool is_offered_directly(const PX_Media_Datum& datum) {
     const auto sizes = datum.capabilities->get_media_size_list();
     if (!sizes)
-        datum.fail(320);
+        datum.fail(PX_Media_Code::No_Sizes);
     if (!px_is_there(sizes->find(datum.configuration->get_media_size())))
         return false;
     // The roll height widens the limit here for any size, with or without a roll.
@@ -181,7 +181,7 @@ void PX_Std_Media_Validator::validate_destination(Strategy::Enum strategy) {
     const auto& cfg = *datum.configuration;
     const auto destinations = caps.get_media_destination_list();
     if (!destinations)
-        datum.fail(312);
+        datum.fail(PX_Media_Code::No_Destinations);
     const auto stands = [&] {
         const auto destination = destinations->find(cfg.get_media_destination());
         if (!px_is_there(destination))

@@ -2,7 +2,6 @@
 
 #include "toolkit/marvcon/std_meta_cfg/required_text.h"
 
-PX_Caps_Name_List_Object::~PX_Caps_Name_List_Object() = default;
 PX_Family::~PX_Family() = default;
 PX_Model::~PX_Model() = default;
 

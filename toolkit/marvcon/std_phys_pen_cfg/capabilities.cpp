@@ -7,32 +7,32 @@
 PX_PhysPen_Capabilities::~PX_PhysPen_Capabilities() = default;
 
 void PX_Std_PhysPen_Capabilities::set_max_number_of_physical_pens(long number) {
-    px_store_or_repair(m_device.max_number_of_physical_pens, number, number >= 0, 0L, 603,
+    px_store_or_repair(m_device.max_number_of_physical_pens, number, number >= 0, 0L, PX_Pen_Code::Max_Number,
                        L"PX_Std_PhysPen_Capabilities::set_max_number_of_physical_pens");
 }
 
 void PX_Std_PhysPen_Capabilities::set_max_pen_width(float width) {
     px_store_or_repair(m_device.max_pen_width, width,
-                       px_is_pen_width(width) && width >= m_device.min_pen_width, m_device.min_pen_width, 604,
-                       L"PX_Std_PhysPen_Capabilities::set_max_pen_width");
+                       px_is_pen_width(width) && width >= m_device.min_pen_width, m_device.min_pen_width,
+                       PX_Pen_Code::Max_Width, L"PX_Std_PhysPen_Capabilities::set_max_pen_width");
 }
 
 void PX_Std_PhysPen_Capabilities::set_min_pen_width(float width) {
     px_store_or_repair(m_device.min_pen_width, width,
-                       px_is_pen_width(width) && width <= m_device.max_pen_width, px_least_pen_width, 605,
-                       L"PX_Std_PhysPen_Capabilities::set_min_pen_width");
+                       px_is_pen_width(width) && width <= m_device.max_pen_width, px_least_pen_width,
+                       PX_Pen_Code::Min_Width, L"PX_Std_PhysPen_Capabilities::set_min_pen_width");
 }
 
 void PX_Std_PhysPen_Capabilities::set_max_pen_speed(float speed) {
     px_store_or_repair(m_device.max_pen_speed, speed,
-                       px_is_pen_speed(speed) && speed >= m_device.min_pen_speed, m_device.min_pen_speed, 606,
-                       L"PX_Std_PhysPen_Capabilities::set_max_pen_speed");
+                       px_is_pen_speed(speed) && speed >= m_device.min_pen_speed, m_device.min_pen_speed,
+                       PX_Pen_Code::Max_Speed, L"PX_Std_PhysPen_Capabilities::set_max_pen_speed");
 }
 
 void PX_Std_PhysPen_Capabilities::set_min_pen_speed(float speed) {
     px_store_or_repair(m_device.min_pen_speed, speed,
-                       px_is_pen_speed(speed) && speed <= m_device.max_pen_speed, 0.0F, 607,
-                       L"PX_Std_PhysPen_Capabilities::set_min_pen_speed");
+                       px_is_pen_speed(speed) && speed <= m_device.max_pen_speed, 0.0F,
+                       PX_Pen_Code::Min_Speed, L"PX_Std_PhysPen_Capabilities::set_min_pen_speed");
 }
 
 void PX_Std_PhysPen_Capabilities::set_max_pen_optimization(int level) {

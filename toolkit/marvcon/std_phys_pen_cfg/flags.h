@@ -60,7 +60,7 @@ struct PX_Pen_User_Flags {
                                          px_std_phys_pen_cfg_source.header_path};
 };
 
-// Named by hosts and drivers.
+// Who shows the user interface of what.
 struct PX_PhysPen_UI_Owner_Flags {
     enum Enum : int {
         No_Pen_UI_Owner = -1,
@@ -99,6 +99,19 @@ struct PX_Pen_Change {
         Optimization = 0x8,
         List = 0x10,
     };
+};
+
+// Numbers that the domain's failures carry; each is that of its text.
+struct PX_Pen_Code {
+    static constexpr unsigned int Pen_Width = 601;
+    static constexpr unsigned int Pen_Speed = 602;
+    static constexpr unsigned int Max_Number = 603;
+    static constexpr unsigned int Max_Width = 604;
+    static constexpr unsigned int Min_Width = 605;
+    static constexpr unsigned int Max_Speed = 606;
+    static constexpr unsigned int Min_Speed = 607;
+    static constexpr unsigned int Default_Optimization = 610;
+    static constexpr unsigned int Default_Number = 611;
 };
 
 class PX_EXPORT PX_PhysPens_Abilities : public PX_Flag_Set<PX_Abilities, PX_Pen_Ability_Flags> {};

@@ -9,12 +9,13 @@ void PX_Std_Pen::set_pen_color(const PX_RGB32* color) {
 }
 
 void PX_Std_Pen::set_pen_width(float width) {
-    px_store_or_repair(m_pen_width, width, px_is_pen_width(width), px_least_pen_width, 601,
+    px_store_or_repair(m_pen_width, width, px_is_pen_width(width), px_least_pen_width, PX_Pen_Code::Pen_Width,
                        L"PX_Std_Pen::set_pen_width");
 }
 
 void PX_Std_Pen::set_pen_speed(float speed) {
-    px_store_or_repair(m_pen_speed, speed, px_is_pen_speed(speed), 0.0F, 602, L"PX_Std_Pen::set_pen_speed");
+    px_store_or_repair(m_pen_speed, speed, px_is_pen_speed(speed), 0.0F, PX_Pen_Code::Pen_Speed,
+                       L"PX_Std_Pen::set_pen_speed");
 }
 
 void PX_Std_Pen::copy_properties_to(PX_Pen& new_one) const {

@@ -12,9 +12,6 @@ using Strategy = PX_Validation_Strategy;
 
 namespace {
 
-constexpr unsigned int default_optimization_too_high = 610;
-constexpr unsigned int default_number_too_high = 611;
-
 // The default wins a tie.
 bool is_default_nearest(long configured, long by_default, long most) {
     return px_distance_32(configured, most) >= px_distance_32(configured, by_default);
@@ -81,7 +78,7 @@ void PX_Std_PhysPen_Validator::set_num_phys_pens_to_default() {
     const Pen_Datum datum(m_plotter, L"PX_Std_PhysPen_Validator::set_num_phys_pens_to_default");
     const long number = datum.capabilities->get_default_num_of_phys_pens();
     if (number > datum.capabilities->get_max_number_of_physical_pens())
-        datum.fail(default_number_too_high);
+        datum.fail(PX_Pen_Code::Default_Number);
     if (datum.is_above_none(Ability::Pen_Ability_Number) && datum.is_required(Ability::Pen_Ability_List))
         datum.configuration->set_number_of_physical_pens(number);
     datum.settle_default(Datum::Pen_Config_Number);
@@ -91,7 +88,7 @@ void PX_Std_PhysPen_Validator::set_pen_optimization_to_default() {
     const Pen_Datum datum(m_plotter, L"PX_Std_PhysPen_Validator::set_pen_optimization_to_default");
     const int level = datum.capabilities->get_default_pen_optimization();
     if (level > datum.capabilities->get_max_pen_optimization())
-        datum.fail(default_optimization_too_high);
+        datum.fail(PX_Pen_Code::Default_Optimization);
     if (datum.is_above_none(Ability::Pen_Ability_Optimization))
         datum.configuration->set_pen_optimization(level);
     datum.settle_default(Datum::Pen_Config_Optimization);

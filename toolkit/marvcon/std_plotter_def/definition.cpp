@@ -1,6 +1,5 @@
 #include "toolkit/marvcon/std_plotter_def/definition.h"
 
-#include "toolkit/core/clone.h"
 #include "toolkit/core/fields.h"
 #include "toolkit/marvcon/std_meta_cfg/interface.h"
 #include "toolkit/marvcon/std_plotter_def/class_factory.h"

@@ -36,6 +36,8 @@ public:
         }
         return true;
     }
+    // The first of the unsent bytes; valid while the buffer is not changed.
+    const char* unsent() const { return m_unsent_position; }
     // At most as far as bytes are unsent.
     void advance_unsent_position(long length);
     // Of the unsent bytes.
@@ -43,11 +45,8 @@ public:
     void clear_buffer();
 
 private:
-    friend class PX_Std_Plotter_IO;
-
     void allocate(long length, const wchar_t* function);
 
-    PX_Smart_Pointer<PX_Error_Handler> m_error_handler;
     std::unique_ptr<char[]> m_chars;
     char* m_unsent_position = nullptr;
     char* m_fill_position = nullptr;

@@ -9,6 +9,7 @@
 #include "toolkit/core/error_resources.h"
 #include "toolkit/core/frame.h"
 #include "toolkit/platform/platform.h"
+#include "toolkit/platform/printers.h"
 
 namespace {
 
@@ -17,7 +18,6 @@ constexpr const wchar_t* file_tag = px_std_plotter_io_source.file_tag;
 constexpr unsigned int default_document_name = 1111;
 // One more for the terminator.
 constexpr int document_name_capacity = 81;
-constexpr DWORD remote_name_capacity = 260;
 
 // Has the channel ask the user while it lives, whatever the driver chose.
 class Ask_Meanwhile {
@@ -129,9 +129,8 @@ bool PX_Std_Plotter_IO::open() {
 bool PX_Std_Plotter_IO::decide_spooling() {
     if (is_to_file() || !is_local_port())
         return false;
-    wchar_t remote_name[remote_name_capacity];
-    DWORD size = remote_name_capacity;
-    if (PX_Get_Platform().WNetGetConnectionW(m_portname, remote_name, &size) != NO_ERROR)
+    wchar_t remote_name[px_remote_name_capacity];
+    if (!px_redirection_of(m_portname, remote_name))
         return detect_port_conflict();
     m_friendly_net_name = remote_name;
     return true;
@@ -209,7 +208,7 @@ bool PX_Std_Plotter_IO::flush_buffer() {
     const long left = m_buffer ? m_buffer->get_buffer_fill_size() : 0;
     if (left == 0)
         return true;
-    const long sent = send(m_buffer->m_unsent_position, static_cast<unsigned long>(left));
+    const long sent = send(m_buffer->unsent(), static_cast<unsigned long>(left));
     // An Abort empties the buffer.
     if (sent == left || sent == -1) {
         m_buffer->clear_buffer();

@@ -7,6 +7,7 @@
 #include "toolkit/marvcon/std_plotter_io/warned_port.h"
 #include "toolkit/platform/floating_point_guard.h"
 #include "toolkit/platform/platform.h"
+#include "toolkit/platform/printers.h"
 
 // A port that a printer of the system owns is printed to, and the user is told.
 
@@ -20,11 +21,6 @@ constexpr int text_capacity = 768;
 
 // Only so many characters of a port's name are compared: COM10 is taken for COM1.
 constexpr std::size_t compared = 4;
-
-// A server's printer is on none of this machine's ports.
-bool is_on_port(const PRINTER_INFO_2W& printer, const wchar_t* port) {
-    return !printer.pServerName && printer.pPortName && px_lists_port(printer.pPortName, port, compared);
-}
 
 // Whether this is the first time in this process that the port is told of.
 bool is_first_warning(const wchar_t* port) {
@@ -52,16 +48,13 @@ void PX_Warned_Port::set_canonical_name(const wchar_t* name) {
 
 bool PX_Std_Plotter_IO::detect_port_conflict() {
     const PX_Floating_Point_Guard guard;
-    PX_Spooler_Records<PRINTER_INFO_2W> found;
-    using Result = decltype(found)::Result;
-    const Result result = found.ask([](BYTE* buffer, DWORD size, DWORD* needed, DWORD* count) {
-        return PX_Get_Platform().EnumPrintersW(PRINTER_ENUM_LOCAL, nullptr, 2, buffer, size, needed, count);
-    });
-    px_require_made(result != Result::No_Memory, function, L"pinfo", file_tag);
+    PX_Printers found;
+    const auto result = px_ask_for_printers(found, PRINTER_ENUM_LOCAL);
+    px_require_made(result != PX_Printers::Result::No_Memory, function, L"pinfo", file_tag);
     m_spooling = false;
     const auto printers = found.records();
     for (const auto& printer : printers.subspan(find_monitorless_printer(printers))) {
-        if (!is_on_port(printer, m_portname))
+        if (!px_is_on_port(printer, m_portname, compared))
             continue;
         m_friendly_net_name = printer.pPrinterName;
         m_spooling = true;
@@ -76,7 +69,8 @@ bool PX_Std_Plotter_IO::detect_port_conflict() {
 std::size_t PX_Std_Plotter_IO::find_monitorless_printer(std::span<PRINTER_INFO_2W> printers) {
     for (std::size_t at = 0; at < printers.size(); ++at) {
         const PRINTER_INFO_2W& printer = printers[at];
-        if (is_on_port(printer, m_portname) && printer.pDriverName && is_monitorless(printer.pDriverName))
+        if (px_is_on_port(printer, m_portname, compared) && printer.pDriverName &&
+            is_monitorless(printer.pDriverName))
             return at;
     }
     return 0;

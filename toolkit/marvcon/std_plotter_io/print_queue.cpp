@@ -2,6 +2,7 @@
 #include "toolkit/marvcon/std_plotter_io/send_all.h"
 #include "toolkit/platform/floating_point_guard.h"
 #include "toolkit/platform/platform.h"
+#include "toolkit/platform/printers.h"
 
 // One raw job in a print queue.
 
@@ -15,13 +16,6 @@ constexpr DWORD version_size = 276;
 // The system takes texts that it does not write into as if it did.
 wchar_t* unwritten(const wchar_t* text) {
     return const_cast<wchar_t*>(text);
-}
-
-HANDLE opened(const wchar_t* printer) {
-    HANDLE handle = INVALID_HANDLE_VALUE;
-    if (!PX_Get_Platform().OpenPrinterW(unwritten(printer), &handle, nullptr))
-        return INVALID_HANDLE_VALUE;
-    return handle;
 }
 
 // An old spooler takes a longer description.
@@ -40,11 +34,9 @@ DWORD start_document(HANDLE printer, const wchar_t* name, bool is_old_spooler) {
 
 void PX_Std_Plotter_IO::open_net_spool() {
     const PX_Floating_Point_Guard guard;
-    m_device = INVALID_HANDLE_VALUE;
-    if (*m_friendly_net_name.c_str())
-        m_device = opened(m_friendly_net_name);
-    if (m_device == INVALID_HANDLE_VALUE && !m_spooling && *m_short_net_name.c_str())
-        m_device = opened(m_short_net_name);
+    m_device = px_open_printer(m_friendly_net_name);
+    if (m_device == INVALID_HANDLE_VALUE && !m_spooling)
+        m_device = px_open_printer(m_short_net_name);
     if (m_device == INVALID_HANDLE_VALUE && !handler().get_quiet_mode())
         m_device = PX_Get_Platform().ConnectToPrinterDlg(nullptr, 0);
     // A dialogue that was cancelled gives null and fails at the start of the job.

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <initializer_list>
 #include <utility>
 
 #include "toolkit/core/flags.h"

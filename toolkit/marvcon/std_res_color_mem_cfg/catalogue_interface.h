@@ -1,10 +1,10 @@
 #pragma once
 
+#include "toolkit/core/caps_name.h"
 #include "toolkit/core/caps_type.h"
 #include "toolkit/core/exception.h"
 #include "toolkit/core/object_list.h"
 #include "toolkit/host/geometry.h"
-#include "toolkit/marvcon/std_meta_cfg/interface.h"
 #include "toolkit/marvcon/std_res_color_mem_cfg/flags.h"
 #include "toolkit/marvcon/std_res_color_mem_cfg/values.h"
 

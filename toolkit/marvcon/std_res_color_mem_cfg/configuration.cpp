@@ -2,6 +2,7 @@
 
 #include <new>
 
+#include "toolkit/core/clamps.h"
 #include "toolkit/core/clone.h"
 #include "toolkit/core/fields.h"
 #include "toolkit/marvcon/std_res_color_mem_cfg/catalogue.h"

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "toolkit/core/clamps.h"
 #include "toolkit/core/flag_accessors.h"
 #include "toolkit/host/string.h"
 #include "toolkit/marvcon/std_res_color_mem_cfg/interface.h"

@@ -33,8 +33,3 @@ inline PX_Smart_Pointer<PX_ResColorMem_Settings> px_rcm_snapshot(const PX_RCM_Da
         datum.fail(PX_Code::Null_Argument, L"settings");
     return settings;
 }
-
-// The bit of a datum in the change word.
-constexpr long px_change_bit(PX_ResColorMem_Config_Flags::Enum datum) {
-    return 1L << datum;
-}

@@ -11,9 +11,6 @@ using Datum = PX_ResColorMem_Config_Flags;
 
 namespace {
 
-constexpr unsigned int default_mode_withdrawn = 401;
-constexpr unsigned int default_resolution_not_usable = 403;
-
 // In units of the host's.
 constexpr long usual_max_mem = 6;
 constexpr long smaller_max_mem = 3;
@@ -38,7 +35,7 @@ void PX_Std_ResColorMem_Validator::set_res_color_mem_to_default() {
             datum.capabilities->get_res_color_mem(datum.capabilities->get_default_res_color_mem());
         datum.configuration->set_res_color_mem(mode.get());
         if (!px_is_there(mode))
-            datum.fail(default_mode_withdrawn);
+            datum.fail(PX_RCM_Code::Default_Mode);
     }
     datum.settle_default(Datum::RCM_Cfg_Res_Color_Mem);
 }
@@ -53,7 +50,7 @@ void PX_Std_ResColorMem_Validator::set_resolution_to_default() {
         const auto resolution = mode->get_resolution(mode->get_default_resolution());
         datum.configuration->set_resolution(resolution.get());
         if (!px_is_there(resolution) || !px_can_be_dithered(datum, *resolution))
-            datum.fail(default_resolution_not_usable);
+            datum.fail(PX_RCM_Code::Default_Resolution);
     }
     datum.settle_default(Datum::RCM_Cfg_Resolution);
 }

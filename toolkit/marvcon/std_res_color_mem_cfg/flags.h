@@ -52,7 +52,7 @@ struct PX_ResColorMem_UI_Owner_Flags {
                                          px_std_res_color_mem_cfg_source.header_path};
 };
 
-// The data of a configuration. The bit of a datum in the change word is 1 shifted by its number.
+// The data of a configuration.
 struct PX_ResColorMem_Config_Flags {
     enum Enum : int {
         No_RCM_Datum = -1,
@@ -72,6 +72,11 @@ struct PX_ResColorMem_Config_Flags {
     static constexpr PX_Flag_Range range{12, L"PX_ResColorMem_Config_Flags::Enum",
                                          px_std_res_color_mem_cfg_source.header_path};
 };
+
+// The bit of a datum in the change word: what a run had to repair.
+constexpr long px_change_bit(PX_ResColorMem_Config_Flags::Enum datum) {
+    return 1L << datum;
+}
 
 class PX_EXPORT PX_ResColorMem_Abilities : public PX_Flag_Set<PX_Abilities, PX_ResColorMem_Ability_Flags> {};
 class PX_EXPORT PX_ResColorMem_Caps_State : public PX_Flag_Set<PX_Boolean_Flags, PX_ResColorMem_User_Flags> {

@@ -11,7 +11,7 @@
 #include "toolkit/marvcon/std_io_cfg/catalogue.h"
 #include "toolkit/platform/floating_point_guard.h"
 #include "toolkit/platform/platform.h"
-#include "toolkit/platform/spooler_records.h"
+#include "toolkit/platform/printers.h"
 
 namespace {
 
@@ -24,8 +24,6 @@ constexpr const wchar_t* file_tag = px_std_sys_io_caps_source.file_tag;
 
 constexpr const wchar_t* usual_ports[] = {L"LPT1", L"LPT2", L"LPT3", L"COM1", L"COM2", L"COM3", L"COM4"};
 constexpr std::size_t longest_port_name = 256;
-// One more for the terminator.
-constexpr DWORD remote_name_capacity = 260;
 
 constexpr DWORD provides_dtr_dsr = 0x1;
 constexpr DWORD provides_rts_cts = 0x2;
@@ -70,9 +68,8 @@ bool begins_with_one_of(const wchar_t* text, std::initializer_list<const wchar_t
 }
 
 bool is_redirected(const wchar_t* port) {
-    wchar_t remote[remote_name_capacity];
-    DWORD size = remote_name_capacity;
-    return PX_Get_Platform().WNetGetConnectionW(port, remote, &size) == NO_ERROR;
+    wchar_t remote_name[px_remote_name_capacity];
+    return px_redirection_of(port, remote_name);
 }
 
 // Adds a port that `fill` has completed. What there is no memory for is 1101, "new_port".
@@ -96,21 +93,11 @@ void store_list(const wchar_t* detail, Store store) {
     }
 }
 
-// Lists what the enumeration gives. What it has no memory for is 1101 with this detail.
-template <class Record, class Enumerate>
-bool ask(PX_Spooler_Records<Record>& records, const wchar_t* function, const wchar_t* detail,
-         Enumerate enumerate) {
-    using Result = typename PX_Spooler_Records<Record>::Result;
-    const Result result = records.ask(enumerate);
+// What the enumeration had no memory for is 1101 with this detail.
+template <class Result>
+bool is_listed(Result result, const wchar_t* function, const wchar_t* detail) {
     px_require_made(result != Result::No_Memory, function, detail, file_tag);
     return result == Result::Listed;
-}
-
-bool ask_for_printers(PX_Spooler_Records<PRINTER_INFO_2W>& records, DWORD which, const wchar_t* function,
-                      const wchar_t* detail) {
-    return ask(records, function, detail, [which](BYTE* buffer, DWORD size, DWORD* needed, DWORD* count) {
-        return PX_Get_Platform().EnumPrintersW(which, nullptr, 2, buffer, size, needed, count);
-    });
 }
 
 // Server and share, or the share alone; empty for what is not shared, and where there is no memory for it.
@@ -156,11 +143,10 @@ PX_Std_System_IO_Capabilities::PX_Std_System_IO_Capabilities() {
 
 void PX_Std_System_IO_Capabilities::list_local_ports(Ports& ports) {
     PX_Spooler_Records<PORT_INFO_2W> found;
-    const bool listed =
-        ask(found, constructor, L"pPorts", [](BYTE* buffer, DWORD size, DWORD* needed, DWORD* count) {
-            return PX_Get_Platform().EnumPortsW(nullptr, 2, buffer, size, needed, count);
-        });
-    if (!listed || found.records().empty()) {
+    const auto result = found.ask([](BYTE* buffer, DWORD size, DWORD* needed, DWORD* count) {
+        return PX_Get_Platform().EnumPortsW(nullptr, 2, buffer, size, needed, count);
+    });
+    if (!is_listed(result, constructor, L"pPorts") || found.records().empty()) {
         for (const wchar_t* const name : usual_ports)
             list_local_port(ports, name);
         return;
@@ -226,8 +212,9 @@ void PX_Std_System_IO_Capabilities::set_up_serial_port(PX_IO_Port& port) {
 }
 
 void PX_Std_System_IO_Capabilities::list_printers(Ports& ports) {
-    PX_Spooler_Records<PRINTER_INFO_2W> found;
-    if (!ask_for_printers(found, PRINTER_ENUM_LOCAL | PRINTER_ENUM_CONNECTIONS, constructor, L"pPrinters"))
+    PX_Printers found;
+    const auto result = px_ask_for_printers(found, PRINTER_ENUM_LOCAL | PRINTER_ENUM_CONNECTIONS);
+    if (!is_listed(result, constructor, L"pPrinters"))
         return;
     for (const PRINTER_INFO_2W& printer : found.records()) {
         if (!is_offered(printer))
@@ -243,13 +230,12 @@ void PX_Std_System_IO_Capabilities::list_printers(Ports& ports) {
 }
 
 bool PX_Std_System_IO_Capabilities::detect_io_port_conflict(const wchar_t* name) {
-    PX_Spooler_Records<PRINTER_INFO_2W> found;
-    if (!name || !ask_for_printers(found, PRINTER_ENUM_LOCAL,
-                                   L"PX_Std_System_IO_Capabilities::detect_io_port_conflict", L"pinfo"))
+    PX_Printers found;
+    if (!name || !is_listed(px_ask_for_printers(found, PRINTER_ENUM_LOCAL),
+                            L"PX_Std_System_IO_Capabilities::detect_io_port_conflict", L"pinfo"))
         return false;
     return std::ranges::any_of(found.records(), [name](const PRINTER_INFO_2W& printer) {
-        return !printer.pServerName && printer.pPortName &&
-               px_lists_port(printer.pPortName, name, std::wcslen(name));
+        return px_is_on_port(printer, name, std::wcslen(name));
     });
 }
 

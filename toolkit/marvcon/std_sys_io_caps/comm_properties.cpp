@@ -5,7 +5,7 @@
 #include "toolkit/core/error_resources.h"
 #include "toolkit/core/fields.h"
 #include "toolkit/marvcon/std_io_cfg/catalogue.h"
-#include "toolkit/marvcon/std_io_cfg/protocol_name.h"
+#include "toolkit/marvcon/std_io_cfg/line_settings.h"
 #include "toolkit/marvcon/std_sys_io_caps/capabilities.h"
 
 // What a serial line can be set to: the numbers of a COMMPROP record as rates and protocols.
@@ -36,17 +36,14 @@ struct Localized_Letters {
     wchar_t letters[std::size(px_parities)][capacity];
 };
 
-PX_Smart_Pointer<PX_Protocol> new_protocol(const PX_Line_Setting<PX_Data_Bits::Enum>& bits,
-                                           const PX_Line_Setting<PX_Parity::Enum>& parity,
-                                           const PX_Line_Setting<PX_Stop_Bits::Enum>& stop,
-                                           const wchar_t* localized_letter) {
+PX_Smart_Pointer<PX_Protocol> new_protocol(const PX_Framing& framing, const wchar_t* localized_letter) {
     PX_Smart_Pointer<PX_Protocol> protocol;
     px_store_made<PX_Protocol>(protocol, new PX_Std_Protocol, constructor, L"new_proto", file_tag);
-    protocol->set_data_bits(bits.value);
-    protocol->set_parity(parity.value);
-    protocol->set_stop_bits(stop.value);
-    protocol->set_canonical_name(px_protocol_name(bits.text, parity.text, stop.text).c_str());
-    protocol->set_localized_name(px_protocol_name(bits.text, localized_letter, stop.text).c_str());
+    protocol->set_data_bits(framing.bits.value);
+    protocol->set_parity(framing.parity.value);
+    protocol->set_stop_bits(framing.stop.value);
+    protocol->set_canonical_name(framing.name().c_str());
+    protocol->set_localized_name(framing.name(localized_letter).c_str());
     return protocol;
 }
 
@@ -113,20 +110,16 @@ void PX_Std_System_IO_Capabilities::set_up_protocols(unsigned long data_bits, un
                                                      unsigned long stop_bits,
                                                      PX_Smart_Pointer<PX_Named_Object_List<PX_Protocol>> list,
                                                      const COMMPROP& record) {
-    const auto is_wanted = [&](const auto& bits, const auto& check, const auto& stop) {
-        return is_taken(bits.mask, data_bits, record.wSettableData) &&
-               is_taken(check.mask, parity, record.wSettableStopParity) &&
-               is_taken(stop.mask, stop_bits, record.wSettableStopParity);
+    const auto is_wanted = [&](const PX_Framing& framing) {
+        return is_taken(framing.bits.mask, data_bits, record.wSettableData) &&
+               is_taken(framing.parity.mask, parity, record.wSettableStopParity) &&
+               is_taken(framing.stop.mask, stop_bits, record.wSettableStopParity);
     };
     px_with_memory(constructor, L"new_proto", file_tag, [&] {
         const Localized_Letters localized;
-        for (const auto& bits : px_data_bits) {
-            for (const auto& check : px_parities) {
-                for (const auto& stop : px_stop_bits) {
-                    if (is_wanted(bits, check, stop))
-                        list->prepend(new_protocol(bits, check, stop, localized.letters[check.value]));
-                }
-            }
+        for (const PX_Framing& framing : px_framings) {
+            if (is_wanted(framing))
+                list->prepend(new_protocol(framing, localized.letters[framing.parity.value]));
         }
     });
 }

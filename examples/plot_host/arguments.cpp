@@ -2,6 +2,7 @@
 
 #include <CLI/CLI.hpp>
 #include <charconv>
+#include <cmath>
 #include <filesystem>
 #include <stdexcept>
 #include <string>
@@ -43,6 +44,16 @@ CLI::Validator one_of(const PX_Word<Value> (&words)[count]) {
         allowed.emplace_back(word.word);
     return CLI::IsMember(allowed);
 }
+
+// For a range alone, nan is neither too small nor too large.
+const CLI::Validator a_number(
+    [](const std::string& word) {
+        double number = 0;
+        return CLI::detail::lexical_cast(word, number) && std::isnan(number)
+                   ? "Value " + word + " is no number"
+                   : std::string();
+    },
+    "");
 
 template <class Value, std::size_t count>
 void add_choice_of(CLI::App& app, const char* option, const PX_Word<Value> (&words)[count], Value& value,
@@ -126,6 +137,7 @@ void add_plot_options(CLI::App& app, Arguments& arguments, std::vector<std::stri
     app.add_flag("--round-dots", arguments.round_dots, "draw fat dots as circles, not as squares")->needs(to);
     app.add_option("--tessellation", arguments.tessellation, "factor for the number of a circle's sides")
         ->check(CLI::Range(0.1, 100.0))
+        ->check(a_number)
         ->type_name("FACTOR")
         ->capture_default_str()
         ->needs(to);
@@ -176,6 +188,11 @@ std::optional<Arguments> parse_arguments(int count, const char* const* words, st
     for (const char* const other : {"--choice", "--save", "--picture", "--strategy", "--policy",
                                     "--fixed-settables", "--dry-run", "--to", "--list"})
         check->excludes(other);
+    // A flag is there or is not: --dry-run=false would plot.
+    for (CLI::Option* const option : app.get_options()) {
+        if (option->get_expected_max() == 0)
+            option->disable_flag_override();
+    }
     app.add_option("--log", arguments.log, "file that failures are written to")->type_name("FILE");
     try {
         app.parse(count, words);

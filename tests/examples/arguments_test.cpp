@@ -53,12 +53,15 @@ TEST(Arguments, EachWordHasItsMeaning) {
 
 TEST(Arguments, WhatMakesNoSenseIsAnErrorAndHelpIsNone) {
     std::ostringstream out;
-    for (const std::vector<const char*>& words : {std::vector<const char*>{},
-                                                  {"--device", "d", "--strategy", "keep"},
-                                                  {"--device", "d", "--policy", "nearest"},
-                                                  {"--device", "d", "--fixed"},
-                                                  {"--device", "d", "--check", "--save", "s"},
-                                                  {"--device", "d", "--check", "--strategy", "default"}})
+    for (const std::vector<const char*>& words :
+         {std::vector<const char*>{},
+          {"--device", "d", "--strategy", "keep"},
+          {"--device", "d", "--policy", "nearest"},
+          {"--device", "d", "--fixed"},
+          {"--device", "d", "--dry-run=false"},
+          {"--device", "d", "--drawing", "v", "--to", "file:p", "--tessellation", "nan"},
+          {"--device", "d", "--check", "--save", "s"},
+          {"--device", "d", "--check", "--strategy", "default"}})
         EXPECT_THROW(parse(words, out), std::runtime_error) << words.size();
     EXPECT_EQ(out.str(), "");
     EXPECT_FALSE(parse({"--help"}, out));

@@ -46,9 +46,12 @@ TEST_F(Device_Findings, ARowForEach) {
     const auto outcome = run_host({"--device", EXAMPLE_DATA "/sample_plotter.ppd", "--check"}, Faulty());
     EXPECT_EQ(outcome.code, 1);
     EXPECT_EQ(outcome.out,
-              "Domain  Object        Fault                                                 What comes of it\n"
-              "media   type 'a [2J'  has the name of an earlier entry, and is never found  is passed over\n"
-              "output  method        has no method                                         a run throws 217\n"
+              "Domain  Object        Fault                                                          What "
+              "comes of it\n"
+              "media   type 'a [2J'  has the name of an earlier entry, which is found in its place  is "
+              "passed over\n"
+              "output  method        has no method                                                  a run "
+              "throws 217\n"
               "\n2 findings.\n");
 }
 

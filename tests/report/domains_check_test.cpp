@@ -1,11 +1,8 @@
 #include <limits>
 
+#include "tests/report/devices.h"
 #include "tests/report/findings.h"
 #include "tests/support/custom.h"
-#include "tests/support/io.h"
-#include "tests/support/rcm.h"
-#include "toolkit/core/module.h"
-#include "toolkit/platform/scripted/scripted_platform.h"
 
 namespace {
 
@@ -60,6 +57,42 @@ TEST(DeviceCheck, WhatIsMissingIsAFinding) {
     EXPECT_EQ(thrown_by([&] { run(device, How::Use_Default); })->detail, L"plotter_caps or plotter_cfg");
 }
 
+// A driver's definition that lacks something.
+struct Bare_Definition : PX_Std_Plotter_Definition {
+    Bare_Definition() : PX_Std_Plotter_Definition(new Test_Handler) {}
+    void lose_factory() { m_class_factory = nullptr; }
+    void lose_validator() { m_plotter_validator = nullptr; }
+};
+
+TEST(DeviceCheck, TheFactoryIsAskedForPensAlone) {
+    auto* const definition = new Bare_Definition;
+    const Device device(definition);
+    const auto validator = device.validator();
+    definition->lose_factory();
+    EXPECT_EQ(px_check_device(*definition), Findings());
+    device.pen_caps()->set_max_number_of_physical_pens(8);
+    device.pen_caps()->set_default_num_of_phys_pens(4);
+    device.pen_caps()->set_abilities(PX_Ability_Value::Ability_Required);
+    EXPECT_EQ(px_check_device(*definition),
+              (Findings{{PX_Domain_Mask::Phys_Pens, L"class factory", Fault::Object_Missing, Effect::Throws,
+                         1103, L"class_factory", 0}}));
+    device.pen_cfg()->set_number_of_physical_pens(1);
+    EXPECT_EQ(thrown_by([&] { run(device, How::Use_Default); })->detail, L"class_factory");
+
+    device.pen_caps()->set_abilities(PX_Ability_Value::Ability_None);
+    device.media_caps()->set_one_ability(Number{2}, PX_Media_Ability_Flags::Ability_Number_Of_Copies);
+    device.media_caps()->set_max_number_of_copies(1);
+    device.media_cfg()->set_number_of_copies(2);
+    definition->lose_validator();
+    EXPECT_EQ(px_check_device(*definition), (Findings{{0, L"plotter validator", Fault::Object_Missing,
+                                                       Effect::Throws, 1103, L"plotter validator", 0}}));
+    EXPECT_EQ(thrown_by([&] {
+                  validator->validate_all(Strategy::Use_Default, PX_Validation_Policy::Validate_Conditional,
+                                          true);
+              })->detail,
+              L"plotter validator");
+}
+
 TEST(DeviceCheck, AFindingIsToldOnOneLine) {
     EXPECT_EQ(px_finding_text({PX_Domain_Mask::Media, L"default type 'x'", Fault::Names_Nothing,
                                Effect::Throws, 1103, L"newtype", 0}),
@@ -69,23 +102,8 @@ TEST(DeviceCheck, AFindingIsToldOnOneLine) {
               L"pens: number of pens is validated, and its default is not written: what is wrong stays; "
               L"repeats itself, bits 0x1A");
     EXPECT_EQ(px_finding_text({0, L"it", Fault::Equal_Names, Effect::Passed_Over, 0, L"", 0}),
-              L"device: it has the name of an earlier entry, and is never found; is passed over");
+              L"device: it has the name of an earlier entry, which is found in its place; is passed over");
 }
-
-struct Pens : Device {
-    Pens() {
-        caps.set_abilities(PX_Ability_Value::Ability_Required);
-        caps.set_max_number_of_physical_pens(8);
-        caps.set_default_num_of_phys_pens(4);
-        caps.set_max_pen_optimization(2);
-        cfg.set_number_of_physical_pens(2);
-    }
-    void set_ability(PX_Pen_Ability_Flags::Enum flag, int ability) {
-        caps.set_one_ability(Number{ability}, flag);
-    }
-    PX_PhysPen_Capabilities& caps = *pen_caps();
-    PX_PhysPen_Configuration& cfg = *pen_cfg();
-};
 
 TEST(DeviceCheck, Pens) {
     using Ability = PX_Pen_Ability_Flags;
@@ -136,6 +154,16 @@ TEST(DeviceCheck, Pens) {
              p.caps.set_max_pen_speed(80);
          },
          repeats(L"default pen speed", Fault::Default_Out_Of_Range, PX_Pen_Change::List)},
+        {"no pens, and a width",
+         [](Pens& p) {
+             p.caps.set_max_number_of_physical_pens(0);
+             p.caps.set_default_num_of_phys_pens(0);
+             p.caps.set_default_pen_width(0);
+             p.caps.set_min_pen_width(0.5F);
+             p.set_ability(Ability::Pen_Ability_Optimization, 0);
+             p.cfg.set_pen_optimization(7);
+         },
+         repeats(L"pen optimization", Fault::Default_Not_Written, PX_Pen_Change::Optimization)},
         {"optimization not written",
          [](Pens& p) {
              p.set_ability(Ability::Pen_Ability_Optimization, 0);
@@ -146,31 +174,60 @@ TEST(DeviceCheck, Pens) {
     expect_found<Pens>(rows, PX_Domain_Mask::Phys_Pens, [](const Pens& p) -> const Device& { return p; });
 }
 
-// A colour device whose resolutions count a memory of 0.
-struct Color : RCM_Device {
-    Color() {
-        drop(modes(), L"rich");
-        set_ability(7, 5);
-        const PX_Smart_Pointer<PX_Mem_Area> least(named<PX_Std_Mem_Area>(L"least"));
-        caps->get_mem_area_list()->append(least);
-        for (const auto& mode : *modes()) {
-            for (const auto& resolution : *mode->get_resolution_list()) {
-                for (int time = 0; time < 3; ++time)
-                    resolution->get_mem_area_name_list()->append(
-                        named<PX_Std_Caps_Name_List_Object>(L"least"));
-            }
-        }
-        cfg->set_resolution(normal().get());
-        cfg->set_res_color_mem(color().get());
-    }
-    void stale_mode() { cfg->set_res_color_mem(PX_Smart_Pointer(color_mode(L"stale", 1, 1, 1)).get()); }
-    void stale_resolution() {
-        cfg->set_resolution(PX_Smart_Pointer(support::resolution(L"stale", {1, 1}, {}, {})).get());
-    }
-};
+TEST(DeviceCheck, EveryGateIsAsked) {
+    using Pen = PX_Pen_Ability_Flags;
+    const auto same = [](const auto& device) -> const Device& { return device; };
+    for (const Pen::Enum gate :
+         {Pen::Pen_Ability_Changing, Pen::Pen_Ability_Area_Fill, Pen::Pen_Ability_Optimization_Check,
+          Pen::Pen_Ability_Number, Pen::Pen_Ability_List})
+        // The list needs the number, and the number the list.
+        expect_gate_asked<Pens>([=](Pens& p, int ability) { p.set_ability(gate, ability); }, same, gate,
+                                gate == Pen::Pen_Ability_List     ? 5
+                                : gate == Pen::Pen_Ability_Number ? 1
+                                                                  : 0);
+    using RCM = PX_ResColorMem_Ability_Flags;
+    const struct {
+        RCM::Enum gate;
+        int sound_from;  // what is listed is written, and others rely on it
+    } rows[] = {
+        {RCM::RCM_Res_Color_Mem, 4},   {RCM::RCM_Resolution, 4},       {RCM::RCM_HardSoftNo_Dithering, 0},
+        {RCM::RCM_Lines_Overwrite, 0}, {RCM::RCM_Color_Vs_Mono, 0},    {RCM::RCM_Rast_Color_Vs_Res_Pref, 0},
+        {RCM::RCM_ISM_Max_Mem, 0},     {RCM::RCM_Installed_Memory, 0}, {RCM::RCM_OLE_Max_Mem, 0},
+        {RCM::RCM_Icm_Method, 0},      {RCM::RCM_Icm_Intent, 0},       {RCM::RCM_Dm_Color, 0}};
+    for (const auto& [gate, sound_from] : rows)
+        expect_gate_asked<Color>([flag = gate](Color& c, int ability) { c.set_ability(flag, ability); }, same,
+                                 gate, sound_from);
+    for (const auto gate :
+         {PX_InitTerm_Ability_Flags::Preinit_String, PX_InitTerm_Ability_Flags::Postinit_String,
+          PX_InitTerm_Ability_Flags::Termination_String})
+        expect_gate_asked<Device>(
+            [=](Device& d, int ability) { d.init_term_caps()->set_one_ability(Number{ability}, gate); }, same,
+            gate);
+}
 
 TEST(DeviceCheck, Color) {
     expect_sound(Color());
+    const Sound<Color> sound[] = {
+        {"very many colours",
+         [](Color& c) {
+             c.color()->set_num_colors(1 << 30);
+             c.cfg->set_res_color_mem(c.color().get());
+         }},
+        {"a very fine resolution",
+         [](Color& c) {
+             const PX_Float_XY fine(2e8F, 2e8F);
+             c.normal()->set_phys_resolution_xy(&fine);
+             c.cfg->set_resolution(c.normal().get());
+         }},
+        {"memory that the third name counts alone",
+         [](Color& c) {
+             const PX_Smart_Pointer<PX_Mem_Area> other(named<PX_Std_Mem_Area>(L"other"));
+             other->set_device_memory(4);
+             c.caps->get_mem_area_list()->append(other);
+             (*c.normal()->get_mem_area_name_list()->begin())->set_canonical_name(L"other");
+         }},
+    };
+    expect_no_findings<Color>(sound, [](const Color& c) -> const Device& { return c; });
     const float nan = std::numeric_limits<float>::quiet_NaN();
     const PX_Float_XY no_number(nan, 1);
     const Faulty<Color> rows[] = {
@@ -240,6 +297,65 @@ TEST(DeviceCheck, Color) {
          },
          throws(L"colour mode 'color', resolutions", Fault::Nothing_To_Take, 1103, L"resolution"),
          How::Use_Nearest, 2},
+        {"depths beyond all others",
+         [](Color& c) {
+             for (const auto& mode : *c.modes())
+                 mode->set_color_depth(2147483647);
+             c.cfg->set_res_color_mem(PX_Smart_Pointer(color_mode(L"stale", 0, 0, 0)).get());
+         },
+         throws(L"colour modes", Fault::Nothing_To_Take, 1103, L"rcm"), How::Use_Nearest},
+        {"mode of a withdrawn name",
+         [](Color& c) {
+             auto* const first = color_mode(L"far", 3000, 30, 3000, 3);
+             c.modes()->append(first);
+             withdraw(c.modes()->find(L"far"));
+             c.modes()->append(color_mode(L"far", 3000, 30, 3000, 3));
+             c.cfg->set_res_color_mem(PX_Smart_Pointer(color_mode(L"stale", 3000, 30, 3000, 3)).get());
+         },
+         throws(L"colour mode 'far', resolutions", Fault::Nothing_To_Take, 1103, L"resolution"),
+         How::Use_Nearest, 2},
+        {"memory of a first name alone",
+         [](Color& c) {
+             const auto names = c.normal()->get_mem_area_name_list();
+             const PX_Smart_Pointer<PX_Mem_Area> other(named<PX_Std_Mem_Area>(L"other"));
+             other->set_device_memory(4);
+             c.caps->get_mem_area_list()->append(other);
+             names->clear();
+             for (const wchar_t* const name : {L"least", L"least", L"other"})
+                 names->append(named<PX_Std_Caps_Name_List_Object>(name));
+             c.cfg->set_installed_memory(9);
+         },
+         repeats(L"colour mode 'color', resolution 'normal'", Fault::Memory_Default, 0x400)},
+        {"default resolution of no number",
+         [&](Color& c) {
+             c.resolutions()->find(L"draft")->set_effective_resolution_xy(&no_number);
+             c.cfg->set_resolution(c.resolutions()->find(L"draft").get());
+         },
+         throws(L"colour mode 'color', resolution 'draft'", Fault::No_Measure, 1103, L"resolution"),
+         How::Use_Nearest, 2},
+        {"default resolution of no number, again and again",
+         [&](Color& c) {
+             c.resolutions()->find(L"draft")->set_effective_resolution_xy(&no_number);
+             c.stale_resolution();
+         },
+         repeats(L"colour mode 'color', resolution 'draft'", Fault::No_Measure, 2), How::Use_Default, 2},
+        {"endless resolution",
+         [&](Color& c) {
+             const PX_Float_XY endless(std::numeric_limits<float>::infinity(), 1);
+             c.normal()->set_phys_resolution_xy(&endless);
+         },
+         passed_over(L"colour mode 'color', resolution 'normal'", Fault::No_Measure)},
+        {"modes of one name", [](Color& c) { c.modes()->append(PX_Smart_Pointer(c.color()->clone())); },
+         passed_over(L"colour mode 'color', place 3", Fault::Equal_Names)},
+        {"resolutions of one name",
+         [](Color& c) { c.resolutions()->append(PX_Smart_Pointer(c.normal()->clone())); },
+         passed_over(L"colour mode 'color', resolution 'normal', place 4", Fault::Equal_Names)},
+        {"memory areas of one name",
+         [](Color& c) { c.caps->get_mem_area_list()->append(named<PX_Std_Mem_Area>(L"least")); },
+         passed_over(L"memory area 'least', place 2", Fault::Equal_Names)},
+        {"dithering methods of one name",
+         [](Color& c) { c.caps->get_dithering_list()->append(PX_Smart_Pointer(c.soft()->clone())); },
+         passed_over(L"dithering method 'soft', place 3", Fault::Equal_Names)},
         {"resolution of no number",
          [&](Color& c) {
              c.normal()->set_addr_resolution_xy(&no_number);
@@ -304,6 +420,20 @@ struct Settings : Device {
     }
 };
 
+// A driver's setting, whose default is of no type.
+struct Untyped : PX_Std_Custom_Capability {
+    struct Value : PX_Std_Long_Custom_Data {
+        Value() : PX_Std_Long_Custom_Data(1) {}
+        PX_Data_Type::Enum type() const override { return PX_Data_Type::Data_Undefined; }
+    };
+    Untyped() {
+        set_canonical_name(L"x");
+        set_data_type(PX_Data_Type::Data_Long);
+        set_verifiable(false);
+    }
+    PX_Smart_Pointer<PX_Custom_Data> get_default_data_value() const override { return new Value; }
+};
+
 TEST(DeviceCheck, Settings) {
     using S = Settings;
     Settings sound;
@@ -318,6 +448,11 @@ TEST(DeviceCheck, Settings) {
          throws(L"settings", Fault::List_Missing, 1103, L"custom_caps or custom_cfg"), How::All_To_Defaults},
         {"no default", [](S& s) { s.add(setting(L"x", nullptr, 0, 10), of(11L)); },
          throws(L"setting 'x', default", Fault::Object_Missing, 1103, L"default_data_value")},
+        {"default of no type",
+         [](S& s) {
+             s.custom_caps()->get_custom_list()->append(PX_Smart_Pointer<PX_Custom_Capability>(new Untyped));
+         },
+         throws(L"setting 'x', default", Fault::Data_Type_Undefined, 701), How::All_To_Defaults},
         {"range of texts", [](S& s) { s.add(setting(L"x", of(L"a"), 0, 10), of(L"a")); },
          throws(L"setting 'x'", Fault::Range_Of_No_Number, 702)},
         {"no values", [](S& s) { s.add(choice(of(1L), {}), of(1L)); },
@@ -364,7 +499,14 @@ TEST(DeviceCheck, Settings) {
              s.add(choice(of(L"a"), {of(L"a")}), of(L"a"));
              s.custom_caps()->get_custom_list()->append(choice(of(1L), {of(1L)}));
          },
-         passed_over(L"setting 'x'", Fault::Equal_Names)},
+         passed_over(L"setting 'x', place 2", Fault::Equal_Names)},
+        {"equal names, the second without a default",
+         [](S& s) {
+             s.add(choice(of(L"a"), {of(L"a")}), of(L"a"));
+             s.custom_caps()->get_custom_list()->append(setting(L"x", nullptr, 0, 10));
+         },
+         throws(L"setting 'x', place 2, default", Fault::Object_Missing, 1103, L"default_data_value"),
+         How::All_To_Defaults, 2},
         {"equal names, the first withdrawn",
          [](S& s) {
              auto first = choice(of(L"a"), {of(L"a")});
@@ -373,7 +515,7 @@ TEST(DeviceCheck, Settings) {
              s.custom_caps()->get_custom_list()->append(choice(of(1L), {of(1L)}));
              s.validator()->set_all_to_defaults();
          },
-         throws(L"setting 'x'", Fault::Equal_Names, 704)},
+         throws(L"setting 'x', place 2", Fault::Equal_Names, 704)},
         {"withdrawn, whatever it is",
          [](S& s) {
              s.custom_caps()->get_custom_list()->append(choice(of(L"a"), {of(L"a")}));
@@ -382,182 +524,9 @@ TEST(DeviceCheck, Settings) {
              s.custom_caps()->get_custom_list()->append(bad);
              s.custom_caps()->get_custom_list()->append(choice(of(1L), {of(1L)}));
          },
-         passed_over(L"setting 'x'", Fault::Equal_Names)},
+         passed_over(L"setting 'x', place 3", Fault::Equal_Names)},
     };
     expect_found<S>(rows, PX_Domain_Mask::Custom, [](const S& s) -> const Device& { return s; });
-}
-
-// A machine with a serial and a parallel port, and a device on it.
-struct Output {
-    Output() {
-        PX_Module_Exit();
-        machine.add_port(L"COM1:");
-        machine.add_port(L"LPT1:");
-        io->device->get_error_handler()->set_quiet_mode(true);
-    }
-    ~Output() { PX_Module_Exit(); }
-
-    void set_ability(PX_Plotter_IO_Ability_Flags::Enum flag, int ability) const {
-        io->caps.set_one_ability(Number{ability}, flag);
-    }
-    void set_ability(PX_IO_Method_Ability_Flags::Enum flag, int ability) const {
-        io->serial.set_one_ability(Number{ability}, flag);
-    }
-    PX_Scripted_Platform machine;
-    PX_Use_Platform use{machine};
-    std::unique_ptr<IO_Device> io = std::make_unique<IO_Device>();
-};
-
-TEST(DeviceCheck, Output) {
-    using O = Output;
-    using Ability = PX_Plotter_IO_Ability_Flags;
-    using Method = PX_IO_Method_Ability_Flags;
-    using Type = PX_IO_Type;
-    using Change = PX_IO_Change;
-    {
-        const Output sound;
-        expect_sound(sound.io->device);
-    }
-    const Faulty<O> rows[] = {
-        {"ability", [](O& o) { o.set_ability(Ability::IO_Pathname, -1); },
-         throws(L"ability of the path name", Fault::Ability_Undefined, 1001)},
-        {"no list of methods", [](O& o) { o.io->caps.set_method_list(nullptr); },
-         throws(L"methods", Fault::List_Missing, 1101, L"workmethlist"), How::Use_Default, 2},
-        {"type met twice", [](O& o) { o.io->add_method(Type::Serial); },
-         passed_over(L"method 'serial'", Fault::Equal_Names)},
-        {"identity",
-         [](O& o) {
-             o.io->device->set_meta_capabilities(nullptr);
-             o.io->caps.set_one_ability(Number{0}, Ability::IO_Protocol);
-             o.io->configure(Type::Driver_Plain, L"");
-         },
-         throws(L"identity", Fault::Object_Missing, 1103, L"meta_capabilities")},
-        {"default type of no machine",
-         [](O& o) {
-             o.set_ability(Ability::IO_System_Ports, 0);
-             o.set_ability(Ability::IO_Baud_Rate, 0);
-             o.io->configure(Type::No_IO_Type, L"");
-         },
-         repeats(L"default type 'parallel'", Fault::Type_Never_Valid, Change::Portname | Change::Type)},
-        {"default type without a method",
-         [](O& o) {
-             o.io->caps.set_default_type(Type::Parallel);
-             o.io->caps.get_method_list()->remove(&o.io->parallel);
-             o.set_ability(Ability::IO_Baud_Rate, 0);
-             o.set_ability(Ability::IO_Protocol, 0);
-             o.io->configure(Type::No_IO_Type, L"");
-         },
-         repeats(L"default type 'parallel'", Fault::Method_Missing, Change::Portname | Change::Type)},
-        {"default type that goes to a file",
-         [](O& o) {
-             o.io->caps.set_default_type(Type::Driver_System);
-             o.set_ability(Ability::IO_Protocol, 0);
-         },
-         passed_over(L"default type 'of a system driver'", Fault::Type_Never_Valid)},
-        {"defaults without a method", [](O& o) { o.io->caps.get_method_list()->remove(&o.io->parallel); },
-         throws(L"method 'parallel'", Fault::Method_Missing, 217), How::All_To_Defaults, 3},
-        {"default rate without a method",
-         [](O& o) {
-             o.io->caps.get_method_list()->remove(&o.io->parallel);
-             o.set_ability(Ability::IO_Protocol, 0);
-         },
-         throws(L"method 'parallel', default baud rate", Fault::Type_Never_Valid, 215), How::All_To_Defaults,
-         2},
-        {"protocol of a parallel port",
-         [](O& o) { o.io->parallel.set_one_ability(Number{4}, Method::Method_Default_Protocol); },
-         throws(L"method 'parallel', default protocol", Fault::Type_Never_Valid, 217), How::All_To_Defaults},
-        {"rate without a port",
-         [](O& o) {
-             o.set_ability(Ability::IO_System_Ports, 0);
-             o.set_ability(Ability::IO_Type, 0);
-             o.io->add_method(Type::No_IO_Type).set_one_ability(Number{4}, Method::Method_Default_Baud_Rate);
-         },
-         throws(L"method 'none', default baud rate", Fault::Type_Never_Valid, 1101, L"workratelist"),
-         How::All_To_Defaults},
-        {"no serial method",
-         [](O& o) {
-             o.io->caps.get_method_list()->remove(&o.io->serial);
-             o.io->cfg.set_all_system_ports_valid(true);
-         },
-         throws(L"method 'serial'", Fault::Method_Missing, 1103, L"extramethod")},
-        {"protocols without methods",
-         [](O& o) {
-             o.set_ability(Ability::IO_Methods, 0);
-             for (const Ability::Enum other : {Ability::IO_Type, Ability::IO_Baud_Rate,
-                                               Ability::IO_Input_Timeout, Ability::IO_Output_Timeout})
-                 o.set_ability(other, 1);
-             o.io->caps.set_default_type(Type::Serial);
-             o.io->cfg.set_protocol(L"x");
-         },
-         throws(L"nearest protocol", Fault::Method_Missing, 217), How::Use_Nearest, 2},
-        {"protocol without methods",
-         [](O& o) {
-             o.io->caps.set_abilities(PX_Ability_Value::Ability_None);
-             o.set_ability(Ability::IO_Protocol, 2);
-             o.set_ability(Ability::IO_System_Ports, 1);
-             o.set_ability(Ability::IO_Type, 1);
-             o.io->caps.set_default_type(Type::Serial);
-             o.io->cfg.set_protocol(L"x");
-         },
-         repeats(L"protocol", Fault::Method_Missing, Change::Protocol), How::Use_Default, 2},
-        {"rates without methods",
-         [](O& o) {
-             o.set_ability(Ability::IO_Methods, 0);
-             for (const Ability::Enum other : {Ability::IO_Type, Ability::IO_Protocol,
-                                               Ability::IO_Input_Timeout, Ability::IO_Output_Timeout})
-                 o.set_ability(other, 1);
-             o.io->caps.set_default_type(Type::Serial);
-             o.io->cfg.set_baud_rate(1);
-         },
-         repeats(L"baud rate", Fault::Method_Missing, Change::Baud_Rate)},
-        {"time-outs without methods",
-         [](O& o) {
-             o.io->caps.set_abilities(PX_Ability_Value::Ability_None);
-             o.set_ability(Ability::IO_Input_Timeout, 2);
-         },
-         repeats(L"input time-out", Fault::Method_Missing, Change::Input_Timeout)},
-        {"protocol list not counted", [](O& o) { o.set_ability(Method::Method_Protocol_List, 0); },
-         repeats(L"method 'serial', protocols", Fault::List_Not_Counted, Change::Protocol)},
-        {"no protocol",
-         [](O& o) {
-             o.io->serial.get_protocol_list()->clear();
-             o.io->add_protocol(L"8n1");
-         },
-         throws(L"method 'serial', protocols", Fault::Nothing_To_Take, 217), How::Use_Default, 2},
-        {"default protocol", [](O& o) { o.io->serial.set_default_protocol(L"x"); },
-         passed_over(L"method 'serial', default protocol 'x'", Fault::Default_Not_Offered)},
-        {"rate list not counted", [](O& o) { o.set_ability(Method::Method_Baud_Rate_List, 0); },
-         repeats(L"method 'serial', baud rates", Fault::List_Not_Counted, Change::Baud_Rate)},
-        {"no rate", [](O& o) { o.io->serial.get_baud_rate_list()->clear(); },
-         throws(L"method 'serial', baud rates", Fault::Nothing_To_Take, 215)},
-        {"one rate, which is not the default",
-         [](O& o) {
-             o.io->serial.get_baud_rate_list()->clear();
-             o.io->add_rate(4800);
-             o.io->caps.set_default_type(Type::Serial);
-         },
-         throws(L"method 'serial', default baud rate", Fault::Default_Not_Offered, 215),
-         How::All_To_Defaults},
-        {"default handshake", [](O& o) { o.io->serial.set_handshakes(3); },
-         passed_over(L"method 'serial', default handshake", Fault::Default_Not_Offered)},
-        {"reversed time-outs", [](O& o) { o.io->serial.set_min_input_timeout(101); },
-         repeats(L"method 'serial', limits of the input time-out", Fault::Limits_Reversed,
-                 Change::Input_Timeout),
-         How::Use_Nearest},
-        {"default time-out", [](O& o) { o.io->serial.set_default_output_timeout(1); },
-         passed_over(L"method 'serial', default output time-out", Fault::Default_Out_Of_Range)},
-    };
-    expect_found<O>(rows, PX_Domain_Mask::IO, [](const O& o) -> const Device& { return o.io->device; });
-
-    // The channel asks in its own way.
-    Output none;
-    none.io->caps.get_method_list()->clear();
-    none.io->caps.set_abilities(PX_Ability_Value::Ability_None);
-    none.set_ability(Ability::IO_Methods, 1);
-    EXPECT_EQ(
-        px_check_device(*none.io->get()),
-        (Findings{{PX_Domain_Mask::IO, L"methods", Fault::Nothing_To_Take, Effect::Throws, 210, L"", 0}}));
-    EXPECT_EQ(thrown_by([&] { none.io->caps.get_method(Type::Serial); })->code, 210U);
 }
 
 }  // namespace

@@ -142,4 +142,45 @@ inline void expect_sound(const Device& device) {
     }
 }
 
+// Of a sound device, a gate that is undefined is the one finding, with the code that a run throws; there is
+// none for any ability from `sound_from` on.
+template <class Tested>
+void expect_gate_asked(const std::function<void(Tested&, int)>& set_gate,
+                       const std::function<const Device&(const Tested&)>& device_of, int gate,
+                       int sound_from = 0) {
+    SCOPED_TRACE(gate);
+    {
+        Tested tested;
+        set_gate(tested, -1);
+        const Findings findings = px_check_device(*device_of(tested).get());
+        EXPECT_EQ(findings.size(), 1U) << testing::PrintToString(findings);
+        EXPECT_TRUE(!findings.empty() && findings[0].fault == Fault::Ability_Undefined);
+        const auto thrown = thrown_by([&] { run(device_of(tested), How::Use_Default); });
+        EXPECT_TRUE(thrown && thrown->code == 1001);
+    }
+    for (int ability = sound_from; ability <= 5; ++ability) {
+        SCOPED_TRACE(ability);
+        Tested tested;
+        set_gate(tested, ability);
+        EXPECT_EQ(px_check_device(*device_of(tested).get()), Findings());
+    }
+}
+
+// What looks like a fault, and comes to nothing in any run.
+template <class Tested>
+struct Sound {
+    const char* name;
+    std::function<void(Tested&)> change;
+};
+template <class Tested, std::size_t count>
+void expect_no_findings(const Sound<Tested> (&rows)[count],
+                        const std::function<const Device&(const Tested&)>& device_of) {
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        Tested tested;
+        row.change(tested);
+        expect_sound(device_of(tested));
+    }
+}
+
 }  // namespace support

@@ -1,14 +1,14 @@
 #include <cmath>
 #include <limits>
 
+#include "tests/report/devices.h"
 #include "tests/report/findings.h"
-#include "tests/support/media.h"
 
 namespace {
 
 using namespace support;
 using Change = PX_Media_Change;
-using M = Media_Device;
+using M = Checked_Media;
 
 constexpr long all_of_destination = 0x1E004;
 constexpr const wchar_t* names_of_entry =
@@ -61,18 +61,97 @@ TEST(MediaCheck, TypesSourcesAndEntries) {
              m.cfg->set_media_type(m.plain().get());
          },
          throws(L"type 'plain'", Fault::No_Measure, 1103, L"newtype"), How::Use_Nearest},
+        {"drying times beyond all others",
+         [](M& m) {
+             for (const auto& type : *m.types())
+                 type->set_drying_time(2147483647);
+             m.cfg->set_media_type(PX_Smart_Pointer(media_type(L"stale", 0, {0, 0})).get());
+         },
+         throws(L"types", Fault::Nothing_To_Take, 1103, L"newtype"), How::Use_Nearest},
+        {"endless type",
+         [](M& m) {
+             const PX_Float_XY endless(600, std::numeric_limits<float>::infinity());
+             m.plain()->set_max_resolution(&endless);
+         },
+         passed_over(L"type 'plain'", Fault::No_Measure)},
+        {"default type of no number",
+         [&](M& m) {
+             m.types()->find(L"film")->set_max_resolution(&no_number);
+             stale_type(m);
+         },
+         repeats(L"type 'film'", Fault::No_Measure, Change::Type), How::Use_Default, 2},
+        {"default entry of no number",
+         [](M& m) {
+             m.entries()->find(L"manual")->set_source_width(nan);
+             stale_entry(m);
+         },
+         repeats(L"source 'tray', entry 'manual'", Fault::No_Measure, Change::Source_Entry), How::Use_Default,
+         2},
+        {"endless entry", [](M& m) { m.upper()->set_source_width(std::numeric_limits<float>::infinity()); },
+         passed_over(L"source 'tray', entry 'upper'", Fault::No_Measure)},
+        {"source of a withdrawn name",
+         [](M& m) {
+             withdraw(m.tray());
+             m.sources()->append(source(L"tray", 5, {source_entry(L"in", 1, 1, {L"A4"})}));
+             m.cfg->set_media_source(PX_Smart_Pointer(source(L"stale", 5, {})).get());
+         },
+         throws(L"source 'tray', place 4", Fault::Equal_Names, 308), How::Use_Nearest},
+        {"source of a withdrawn name, chosen directly",
+         [](M& m) {
+             withdraw(m.sources()->find(L"drawer"));
+             m.sources()->append(source(L"drawer", 5, {source_entry(L"in", 1, 1, {L"A4"})}));
+             m.sources()->find(L"drawer")->set_media_feed(Number{5});
+             m.choose_directly();
+             m.cfg->set_media_source(PX_Smart_Pointer(source(L"stale", 5, {})).get());
+         },
+         repeats(L"source 'drawer', place 4", Fault::Equal_Names, Change::Source), How::Use_Nearest, 2},
+        {"source of a withdrawn name that has no list",
+         [](M& m) {
+             withdraw(m.sources()->find(L"drawer"));
+             m.sources()->append(source(L"drawer", 5, {source_entry(L"in", 1, 1, {L"A4"})}));
+             m.sources()->find(L"drawer")->set_source_entry_list(nullptr);
+             m.cfg->set_media_source(PX_Smart_Pointer(source(L"stale", 5, {})).get());
+         },
+         throws(L"source 'drawer', entries", Fault::List_Missing, 322), How::Use_Nearest, 2},
+        {"entry of a withdrawn name",
+         [](M& m) {
+             withdraw(m.entries()->find(L"lower"));
+             m.entries()->append(source_entry(L"lower", 500, 600, {L"A4"}));
+             m.cfg->set_media_source_entry(PX_Smart_Pointer(source_entry(L"stale", 500, 600, {})).get());
+         },
+         throws(L"source 'tray', entry 'lower', place 4", Fault::Equal_Names, 323), How::Use_Nearest, 2},
+        {"source without a name before the default of a size",
+         [](M& m) {
+             m.sources()->append(source(L"", 1, {source_entry(L"in", 210, 297, {L"A4"})}));
+             m.set_ability(Ability::Ability_Media_Size, 1);
+             m.cfg->set_media_source(m.sources()->find(L"").get());
+             stale_entry(m);
+         },
+         throws(L"source ''", Fault::Name_Empty, 309)},
+        {"three sources of a name",
+         [](M& m) {
+             m.sources()->append(source(L"tray", 1, {source_entry(L"in", 1, 1, {L"A4"})}));
+             m.sources()->append(source(L"tray", 1, {source_entry(L"in", 1, 1, {L"A4"})}));
+         },
+         passed_over(L"source 'tray', place 5", Fault::Equal_Names), How::None, 2},
+        {"name of two lines",
+         [](M& m) {
+             m.caps->set_default_media_source(L"a\nb");
+             stale_source(m);
+         },
+         throws(L"default source 'a b'", Fault::Names_Nothing, 1103, L"newsource")},
         {"equal names",
          [](M& m) {
              m.types()->append(media_type(L"film", 1, {1, 1}));
          },
-         passed_over(L"type 'film'", Fault::Equal_Names)},
+         passed_over(L"type 'film', place 4", Fault::Equal_Names)},
         {"equal names, the first withdrawn",
          [](M& m) {
              withdraw(m.types()->find(L"fine"));
              m.types()->append(media_type(L"fine", 11, {600, 600}));
              m.cfg->set_media_type(PX_Smart_Pointer(media_type(L"stale", 11, {600, 600})).get());
          },
-         repeats(L"type 'fine'", Fault::Equal_Names, Change::Type), How::Use_Nearest},
+         repeats(L"type 'fine', place 4", Fault::Equal_Names, Change::Type), How::Use_Nearest},
         {"default type",
          [](M& m) {
              m.caps->set_default_media_type(L"x");
@@ -137,13 +216,13 @@ TEST(MediaCheck, TypesSourcesAndEntries) {
              m.set_ability(Ability::Ability_Media_Source_Default, 3);
              stale_source(m);
          },
-         throws(L"source entry", Fault::Not_Ensured, 1103, L"newentry"), How::Use_Default, 4},
+         throws(L"source entry", Fault::Not_Ensured, 1103, L"newentry"), How::Use_Default, 3},
         {"size relies on the source",
          [](M& m) {
              m.set_ability(Ability::Ability_Media_Source_Default, 3);
              m.cfg->set_media_source(PX_Smart_Pointer(source(L"", 9, {})).get());
          },
-         throws(L"size by source", Fault::Not_Ensured, 308), How::Use_Default, 4},
+         throws(L"size by source", Fault::Not_Ensured, 308), How::Use_Default, 3},
 
         {"no list of entries", [](M& m) { m.tray()->set_source_entry_list(nullptr); },
          throws(L"source 'tray', entries", Fault::List_Missing, 322), How::Use_Default, 2},
@@ -173,13 +252,13 @@ TEST(MediaCheck, TypesSourcesAndEntries) {
              m.choose_directly();
              stale_entry(m);
          },
-         repeats(L"source entry", Fault::Default_Not_Written, Change::Source_Entry), How::Use_Default, 3},
+         repeats(L"source entry", Fault::Default_Not_Written, Change::Source_Entry), How::Use_Default, 2},
         {"size relies on the entry",
          [](M& m) {
              m.set_ability(Ability::Ability_Media_Source_Entry_Default, 3);
              stale_entry(m);
          },
-         throws(L"size by source", Fault::Not_Ensured, 323), How::Use_Default, 3},
+         throws(L"size by source", Fault::Not_Ensured, 323), How::Use_Default, 2},
         {"default size relies on the entry",
          [](M& m) {
              m.set_ability(Ability::Ability_Media_Source_Entry_Default, 3);
@@ -266,6 +345,40 @@ TEST(MediaCheck, Sizes) {
              stale_entry(m);
          },
          repeats(L"source 'roll', entry 'wide', size 'A3'", Fault::Beyond_Limit, Change::Size)},
+        {"beyond a roll that limits",
+         [](M& m) {
+             m.limit({297, 420}, 419);
+             m.caps->set_media_selection_methods(1);
+             m.caps->set_default_media_selection_method(Number{1});
+             m.set_ability(Ability::Ability_Roll_Limit, 1);
+             stale_source(m);
+             stale_entry(m);
+         },
+         repeats(L"source 'roll', entry 'wide', size 'A3'", Fault::Beyond_Limit, Change::Size)},
+        {"size of a withdrawn name",
+         [](M& m) {
+             withdraw(m.sizes()->find(L"A3"));
+             m.sizes()->find(L"A3")->set_media_description(L"none");
+             m.add_second_a3();
+         },
+         throws(L"size 'A3', place 5", Fault::Equal_Names, 1103, L"newsize"), How::Use_Nearest, 2},
+        {"size of a name without a description",
+         [](M& m) {
+             m.sizes()->find(L"A3")->set_media_description(L"none");
+             m.add_second_a3();
+         },
+         throws(L"size 'A3', place 5", Fault::Equal_Names, 1103, L"newsize"), How::Use_Nearest, 3},
+        {"description that is withdrawn, of a name that is met again",
+         [](M& m) {
+             m.descriptions()->append(description(L"gone", {297, 420}, {5, 200, 5, 200}));
+             withdraw(m.descriptions()->find(L"gone"));
+             m.sizes()->find(L"A4plus")->set_media_description(L"gone");
+             m.sizes()->append(media_size(L"A4plus", L"a4plus"));
+             m.choose_directly();
+             m.cfg->set_media_size(PX_Smart_Pointer(media_size(L"stale", L"a4plus")).get(),
+                                   m.descriptions()->find(L"a4plus").get());
+         },
+         repeats(L"size 'A4plus', place 5", Fault::Equal_Names, Change::Size), How::None, 2},
         {"default of an entry",
          [](M& m) {
              m.upper()->set_default_media_size(L"A3");
@@ -404,12 +517,6 @@ TEST(MediaCheck, DestinationsAndPlainData) {
          throws(L"default scale", Fault::Default_Out_Of_Range, 316)},
     };
     expect_found<M>(rows, PX_Domain_Mask::Media, [](const M& m) -> const Device& { return m; });
-}
-
-TEST(MediaCheck, ASoundDeviceHasNoFinding) {
-    expect_sound(M());
-    // Nor has one that lacks all media.
-    expect_sound(Device());
 }
 
 }  // namespace

@@ -31,8 +31,8 @@ public:
           m_modes(device.get_res_color_mem_list()),
           m_mode_is_sure(of(Ability::RCM_Res_Color_Mem).is_listed()),
           // From the conditional ability of the mode on; the mode itself is sure from the listed one on.
-          m_resolution_has_default(device.get_one_ability(Ability::RCM_Res_Color_Mem) >=
-                                       PX_Ability_Value::Ability_Conditional &&
+          m_resolution_has_default((of(Ability::RCM_Res_Color_Mem).is_conditional() ||
+                                    of(Ability::RCM_Res_Color_Mem).is_listed()) &&
                                    of(Ability::RCM_Resolution).is_listed()),
           m_resolution_is_validated(of(Ability::RCM_Resolution).is_validated()),
           m_dithers(of(Ability::RCM_HardSoftNo_Dithering).is_validated() &&
@@ -43,32 +43,35 @@ public:
 
     void run() const {
         px_check_gates(m_device, gates, m_found);
-        px_check_names(m_modes, L"", L"colour mode", m_found,
-                       px_bits_if(of(Ability::RCM_Res_Color_Mem).is_validated(),
-                                  px_change_bit(Datum::RCM_Cfg_Res_Color_Mem)));
-        px_check_names(m_device.get_mem_area_list(), L"", L"memory area", m_found);
-        px_check_names(m_device.get_dithering_list(), L"", L"dithering method", m_found);
+        const bool mode_is_validated = of(Ability::RCM_Res_Color_Mem).is_validated();
+        px_check_names(m_modes, L"", L"colour mode",
+                       px_repeating(m_found, px_bits_if(mode_is_validated,
+                                                        px_change_bit(Datum::RCM_Cfg_Res_Color_Mem))));
+        px_check_names(m_device.get_mem_area_list(), L"", L"memory area", px_passing_over(m_found));
+        px_check_names(m_device.get_dithering_list(), L"", L"dithering method", px_passing_over(m_found));
         check_modes();
         check_order();
         px_for_each_named(m_modes, [&](const PX_ResColorMem& mode) {
             if (!m_mode_is_sure || !px_is_withdrawn(mode))
                 check_resolutions(mode);
         });
+        if (mode_is_validated && m_mode_is_sure)
+            px_for_each_fallen_back_on(m_modes, [&](const PX_ResColorMem& mode) {
+                check_resolutions_to_take(mode, px_named(L"colour mode", mode));
+            });
     }
 
 private:
-    PX_Ability_Of of(Ability::Enum flag) const { return m_device.get_one_ability(flag); }
+    PX_Ability_Of of(Ability::Enum flag) const { return px_ability_of(m_device, gates, flag); }
 
     void check_modes() const {
         const bool is_validated = of(Ability::RCM_Res_Color_Mem).is_validated();
         if (is_validated && !m_modes)
             m_found.throws(L"colour modes", Fault::List_Missing, nothing_there, L"res_color_mem_list");
-        else if (is_validated && !px_has_one_there(m_modes, has_numbers))
+        else if (is_validated && !px_has_one_there(m_modes, is_near))
             m_found.throws(L"colour modes", Fault::Nothing_To_Take, nothing_there, L"rcm");
         if (is_validated)
             px_for_each_there(m_modes, [&](const PX_ResColorMem& mode) {
-                if (!has_numbers(mode))
-                    m_found.passes_over(px_named(L"colour mode", mode), Fault::No_Measure);
                 if (mode.get_color_system() == PX_Color_System::Color_System_Undefined)
                     m_found.repeats(px_named(L"colour mode", mode), Fault::Color_System_Undefined,
                                     px_change_bit(Datum::RCM_Cfg_Res_Color_Mem));
@@ -88,11 +91,13 @@ private:
                            PX_RCM_Code::Default_Mode);
     }
 
-    // The searches end at the greatest number of 32 bits.
-    static bool has_numbers(const PX_ResColorMem& mode) {
-        return px_is_measure(static_cast<float>(mode.get_num_colors())) &&
-               px_is_measure(static_cast<float>(mode.get_color_depth())) &&
-               px_is_measure(static_cast<float>(mode.get_num_undithered_colors()));
+    // To a choice that was never made, as the search measures.
+    static bool is_near(const PX_ResColorMem& mode) {
+        const auto size_of = [](long number) { return std::fabs(static_cast<double>(number)); };
+        const float colors = static_cast<float>(size_of(mode.get_num_colors())) * 0.1F;
+        return double{colors} + size_of(mode.get_color_depth()) + size_of(mode.get_num_undithered_colors()) +
+                   100.0 <
+               px_worst_score;
     }
 
     // What needs a mode or a resolution, where no default makes them good.
@@ -117,18 +122,19 @@ private:
     void check_resolutions(const PX_ResColorMem& mode) const {
         const std::wstring way = px_named(L"colour mode", mode);
         const auto resolutions = mode.get_resolution_list();
-        px_check_names(resolutions, way, L"resolution", m_found,
-                       px_bits_if(m_resolution_is_validated, px_change_bit(Datum::RCM_Cfg_Resolution)));
-        if (m_resolution_is_validated && !px_has_one_there(resolutions, has_measures))
-            m_found.throws(px_in(way, L"resolutions"), Fault::Nothing_To_Take, nothing_there, L"resolution");
+        px_check_names(resolutions, way, L"resolution",
+                       px_repeating(m_found, px_bits_if(m_resolution_is_validated,
+                                                        px_change_bit(Datum::RCM_Cfg_Resolution))));
+        check_resolutions_to_take(mode, way);
+        const wchar_t* const name = mode.get_default_resolution();
+        const auto preset = mode.get_resolution(name);
         px_for_each_named(resolutions, [&](const PX_Resolution& resolution) {
             if (!m_resolution_has_default || !px_is_withdrawn(resolution))
-                check_resolution(resolution, px_in(way, px_named(L"resolution", resolution)));
+                check_resolution(resolution, px_in(way, px_named(L"resolution", resolution)),
+                                 m_resolution_has_default && preset.get() == &resolution);
         });
         if (!m_resolution_has_default)
             return;
-        const wchar_t* const name = mode.get_default_resolution();
-        const auto preset = mode.get_resolution(name);
         const std::wstring object = px_in(way, px_named(L"default resolution", name));
         if (!preset)
             m_found.throws(object, Fault::Names_Nothing, nothing_there, L"resolution");
@@ -139,10 +145,16 @@ private:
                            px_fault_of_name(method), PX_RCM_Code::Default_Resolution);
     }
 
+    void check_resolutions_to_take(const PX_ResColorMem& mode, const std::wstring& way) const {
+        if (m_resolution_is_validated && !px_has_one_there(mode.get_resolution_list(), has_measures))
+            m_found.throws(px_in(way, L"resolutions"), Fault::Nothing_To_Take, nothing_there, L"resolution");
+    }
+
+    // The search begins at the largest number that there is.
     static bool has_measures(const PX_Resolution& resolution) {
-        return px_is_measure(px_value(resolution.get_phys_resolution_xy())) &&
-               px_is_measure(px_value(resolution.get_addr_resolution_xy())) &&
-               px_is_measure(px_value(resolution.get_effective_resolution_xy()));
+        return px_is_finite(px_value(resolution.get_phys_resolution_xy())) &&
+               px_is_finite(px_value(resolution.get_addr_resolution_xy())) &&
+               px_is_finite(px_value(resolution.get_effective_resolution_xy()));
     }
     static bool has_nan(const PX_Resolution& resolution) {
         return px_is_nan(px_value(resolution.get_phys_resolution_xy())) ||
@@ -155,15 +167,20 @@ private:
         return m_device.get_dithering(resolution.get_dithering_name());
     }
 
-    void check_resolution(const PX_Resolution& resolution, const std::wstring& way) const {
-        px_check_measure(has_nan(resolution), has_measures(resolution), way, m_resolution_is_validated,
-                         L"resolution", m_found);
+    void check_resolution(const PX_Resolution& resolution, const std::wstring& way, bool is_default) const {
+        if (m_resolution_is_validated)
+            px_check_measure(has_nan(resolution), has_measures(resolution), way, L"resolution", is_default,
+                             px_change_bit(Datum::RCM_Cfg_Resolution), m_found);
         const auto method = dithering_of(resolution);
         const std::wstring dithering = px_in(way, px_named(L"dithering", resolution.get_dithering_name()));
         if (m_dithers && !method)
             m_found.throws(dithering, Fault::Names_Nothing, nothing_there, L"dithering");
-        // The search asks for no method: the resolution is the nearest to itself.
-        if (m_resolution_is_validated && needs_method() && !px_is_there(method))
+        // The search asks for no method: the resolution is the nearest to itself. Without one, a run that
+        // validates the dithering too does not end.
+        const bool ends =
+            method || !m_dithers ||
+            of(Ability::RCM_Resolution).is_validated_without(of(Ability::RCM_HardSoftNo_Dithering));
+        if (m_resolution_is_validated && needs_method() && !px_is_there(method) && ends)
             m_found.repeats(dithering, px_fault_of_name(method), px_change_bit(Datum::RCM_Cfg_Resolution));
         if (!m_counts_memory)
             return;
@@ -171,31 +188,8 @@ private:
             if (!m_device.get_mem_area(name.get_canonical_name()))
                 m_found.passes_over(px_in(way, px_named(L"memory area", name)), Fault::Names_Nothing);
         });
-        if (!takes_memory(resolution, 0))
+        if (!px_is_memory_of_an_area(m_device, resolution, 0))
             m_found.repeats(way, Fault::Memory_Default, px_change_bit(Datum::RCM_Cfg_Installed_Memory));
-    }
-
-    // As a run counts: up to three names at a time, of which the memory of the third counts.
-    bool takes_memory(const PX_Resolution& resolution, long memory) const {
-        const auto names = resolution.get_mem_area_name_list();
-        if (!names)
-            return false;
-        auto place = names->begin();
-        const auto next = [&]() -> PX_Smart_Pointer<PX_Mem_Area> {
-            if (place == names->end())
-                return nullptr;
-            const auto& name = *place;
-            ++place;
-            return name ? m_device.get_mem_area(name->get_canonical_name()) : nullptr;
-        };
-        while (place != names->end()) {
-            if (!next() || !px_is_there(next()))
-                continue;
-            const auto counted = next();
-            if (px_is_there(counted) && counted->get_device_memory() == memory)
-                return true;
-        }
-        return false;
     }
 
     const PX_ResColorMem_Capabilities& m_device;

@@ -8,6 +8,17 @@ bool is_type(PX_Data_Type::Enum type) {
     return type >= PX_Data_Type::Data_String && type <= PX_Data_Type::Data_Raw;
 }
 
+// What an item is made of, also that of a later setting of the name.
+void check_default(const PX_Custom_Capability& setting, const std::wstring& way, const PX_Findings& found) {
+    const auto preset = setting.get_default_data_value();
+    const std::wstring object = px_in(way, L"default");
+    if (!preset)
+        found.throws(object, Fault::Object_Missing, PX_Code::Null_Argument, L"default_data_value");
+    else if (!is_type(preset->type()))
+        found.throws(object, Fault::Data_Type_Undefined, PX_Custom_Code::Unknown_Type);
+}
+
+// A setting that its name finds.
 class Setting_Check {
 public:
     Setting_Check(const PX_Custom_Capability& setting, const PX_Findings& found)
@@ -19,11 +30,7 @@ public:
     void run() const {
         const PX_Data_Type::Enum type = m_setting.get_data_type();
         const bool is_number = type == PX_Data_Type::Data_Long || type == PX_Data_Type::Data_Double;
-        if (!m_preset)
-            m_found.throws(default_value(), Fault::Object_Missing, PX_Code::Null_Argument,
-                           L"default_data_value");
-        else if (!is_type(m_preset->type()))
-            m_found.throws(default_value(), Fault::Data_Type_Undefined, PX_Custom_Code::Unknown_Type);
+        check_default(m_setting, m_way, m_found);
         if (!is_type(type)) {
             m_found.repeats(m_way, Fault::Data_Type_Undefined, 0);
         } else if (m_setting.get_verifiable() && m_setting.get_is_range_type()) {
@@ -96,16 +103,16 @@ void px_check_custom(const PX_Custom_Capabilities& device, const PX_Findings& fo
     if (!settings)
         return found.throws(L"settings", Fault::List_Missing, PX_Code::Null_Argument,
                             L"custom_caps or custom_cfg");
-    for (const auto& setting : *settings) {
-        const auto first = setting ? settings->find(setting->get_canonical_name()) : nullptr;
-        if (first == setting)
-            continue;
-        // Both get an item; of the withdrawn one there is no setting.
-        if (px_is_there(setting) && !px_is_there(first))
-            found.throws(px_named(L"setting", *setting), Fault::Equal_Names, PX_Custom_Code::No_Capability);
-        else
-            found.passes_over(px_named(L"setting", *setting), Fault::Equal_Names);
-    }
+    px_check_names(settings, L"", L"setting",
+                   [&](const std::wstring& object, const auto& later, const auto& first) {
+                       // Both get an item; of the withdrawn one there is no setting.
+                       if (px_falls_back(later, first))
+                           found.throws(object, Fault::Equal_Names, PX_Custom_Code::No_Capability);
+                       else
+                           found.passes_over(object, Fault::Equal_Names);
+                       if (px_is_there(later))
+                           check_default(*later, object, found);
+                   });
     px_for_each_there(settings,
                       [&](const PX_Custom_Capability& setting) { Setting_Check(setting, found).run(); });
 }

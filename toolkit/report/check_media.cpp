@@ -1,3 +1,4 @@
+#include "toolkit/core/distance.h"
 #include "toolkit/report/domain_checks.h"
 
 // Media but for the sources and sizes: the method, the types, the destinations and the plain data.
@@ -7,19 +8,6 @@ using Change = PX_Media_Change;
 using Fault = PX_Device_Fault;
 
 namespace {
-
-constexpr PX_Gate<Ability> gates[] = {{Ability::Ability_Media_Selection_Method, L"selection method"},
-                                      {Ability::Ability_Media_Type, L"type"},
-                                      {Ability::Ability_Media_Source, L"source"},
-                                      {Ability::Ability_Media_Source_Entry, L"source entry"},
-                                      {Ability::Ability_Media_Size, L"size and margins"},
-                                      {Ability::Ability_Media_Destination, L"destination"},
-                                      {Ability::Ability_Number_Of_Copies, L"copies"},
-                                      {Ability::Ability_Duplexing, L"duplexing"},
-                                      {Ability::Ability_Longplot_Reduction, L"longplot reduction"},
-                                      {Ability::Ability_Dm_Scale, L"scale"},
-                                      {Ability::Ability_Dm_Orientation, L"orientation"},
-                                      {Ability::Ability_Actual_Printable_Bounds, L"actual printable bounds"}};
 
 class Media_Check {
 public:
@@ -38,24 +26,23 @@ public:
         const auto types = m_device.get_media_type_list();
         const bool is_validated = of(Ability::Ability_Media_Type).is_validated();
         const bool has_default = of(Ability::Ability_Media_Type_Default).is_listed();
-        px_check_names(types, L"", L"type", m_found, px_bits_if(is_validated, Change::Type));
-        px_for_each_there(types, [&](const PX_Media_Type& type) {
-            const auto best = px_value(type.get_max_resolution());
-            px_check_measure(px_is_nan(best), px_is_measure(best), px_named(L"type", type), is_validated,
-                             L"newtype", m_found);
-        });
+        px_check_names(types, L"", L"type", px_repeating(m_found, px_bits_if(is_validated, Change::Type)));
+        const wchar_t* const name = m_device.get_default_media_type();
+        const auto preset = m_device.get_media_type(name);
+        if (is_validated)
+            px_for_each_there(types, [&](const PX_Media_Type& type) {
+                const auto best = px_value(type.get_max_resolution());
+                px_check_measure(px_is_nan(best), px_is_finite(best), px_named(L"type", type), L"newtype",
+                                 has_default && preset.get() == &type, Change::Type, m_found);
+            });
         if (is_validated && !types)
             m_found.throws(L"types", Fault::List_Missing, PX_Media_Code::No_Types);
-        else if (is_validated && !px_has_one_there(types, [](const PX_Media_Type& type) {
-                     return px_is_measure(px_value(type.get_max_resolution()));
-                 }))
+        else if (is_validated && !px_has_one_there(types, is_near))
             m_found.throws(L"types", Fault::Nothing_To_Take, PX_Code::Null_Argument, L"newtype");
         if (is_validated && !has_default)
             m_found.repeats(L"type", Fault::Default_Not_Written, Change::Type);
         if (!has_default)
             return;
-        const wchar_t* const name = m_device.get_default_media_type();
-        const auto preset = m_device.get_media_type(name);
         if (!preset)
             m_found.throws(px_named(L"default type", name), Fault::Names_Nothing, PX_Code::Null_Argument,
                            L"newtype");
@@ -67,8 +54,8 @@ public:
     void check_destinations() const {
         const auto destinations = m_device.get_media_destination_list();
         const bool is_validated = of(Ability::Ability_Media_Destination).is_validated();
-        px_check_names(destinations, L"", L"destination", m_found,
-                       px_bits_if(is_validated, all_of_destination));
+        px_check_names(destinations, L"", L"destination",
+                       px_repeating(m_found, px_bits_if(is_validated, all_of_destination)));
         if (is_validated && !destinations)
             m_found.throws(L"destinations", Fault::List_Missing, PX_Media_Code::No_Destinations);
         else if (is_validated && !px_has_one_there(destinations))
@@ -132,7 +119,14 @@ private:
     static constexpr long all_of_destination =
         Change::Destination | Change::Collating | Change::Stapling | Change::Cutting | Change::Folding;
 
-    PX_Ability_Of of(Ability::Enum flag) const { return m_device.get_one_ability(flag); }
+    PX_Ability_Of of(Ability::Enum flag) const { return px_ability_of(m_device, px_media_gates, flag); }
+    // To a choice that was never made, as the search measures.
+    static bool is_near(const PX_Media_Type& type) {
+        const auto best = px_value(type.get_max_resolution());
+        const double x = std::fabs(best.x) * 10.0F;
+        const double y = std::fabs(best.y) * 10.0F;
+        return x + y + px_distance_32(type.get_drying_time(), 0) < px_worst_score;
+    }
     bool has_default_destination() const {
         return of(Ability::Ability_Media_Destination_Default).is_listed();
     }
@@ -151,7 +145,7 @@ private:
                          const Finishing<Option>& finishing) const {
         const std::wstring there = px_named(L"destination", destination);
         const PX_Ability_Of ability = of(finishing.ability);
-        px_check_names(finishing.list, there, finishing.kind, m_found);
+        px_check_names(finishing.list, there, finishing.kind, px_passing_over(m_found));
         const auto is_default = [&] {
             const auto preset = m_device.get_media_destination(m_device.get_default_media_destination());
             return preset.get() == &destination;
@@ -194,7 +188,7 @@ private:
 
 void px_check_media(const PX_Media_Capabilities& device, const PX_Findings& found) {
     const Media_Check check(device, found);
-    px_check_gates(device, gates, found);
+    px_check_gates(device, px_media_gates, found);
     check.check_method();
     check.check_types();
     px_check_media_sizes(device, found);

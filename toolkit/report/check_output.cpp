@@ -60,6 +60,7 @@ public:
           m_found(found),
           m_has_methods(has(Ability::IO_Methods)),
           m_has_ports(has(Ability::IO_System_Ports)),
+          // Without the ability every run writes no type.
           m_preset(has(Ability::IO_Type) ? device.get_default_type() : Type::No_IO_Type) {}
 
     void run() const {
@@ -79,7 +80,7 @@ private:
     // Any ability but none, as a run asks here.
     bool has(Ability::Enum flag) const { return !PX_Ability_Of(m_device.get_one_ability(flag)).is_none(); }
     bool is_validated(Ability::Enum gate) const {
-        return PX_Ability_Of(m_device.get_one_ability(gate)).is_validated();
+        return px_ability_of(m_device, gates, gate).is_validated();
     }
     static bool has(const PX_IO_Method& method, Method_Ability::Enum flag) {
         return !PX_Ability_Of(method.get_one_ability(flag)).is_none();
@@ -108,9 +109,12 @@ private:
         // When the channel is set up.
         if (methods->is_empty())
             m_found.throws(L"methods", Fault::Nothing_To_Take, PX_IO_Code::No_Methods);
+        int place = 0;
         for (const auto& method : *methods) {
+            ++place;
             if (px_is_there(method) && method_of(method->get_type()) != method)
-                m_found.passes_over(way_to(method->get_type()), Fault::Equal_Names);
+                m_found.passes_over(px_in(way_to(method->get_type()), L"place " + std::to_wstring(place)),
+                                    Fault::Equal_Names);
         }
     }
 
@@ -169,12 +173,23 @@ private:
         return model && (*px_text(model->get_friendly_net_name()) || *px_text(model->get_short_net_name()));
     }
 
-    // What a run validates on serial lines alone.
+    // Whether a run leaves the type: one that is validated is the choice's; else it is the default, or the
+    // other local type, on a machine that has a port of that alone.
+    bool is_left(Type::Enum type) const {
+        const auto is_local = [](Type::Enum one) { return one == Type::Serial || one == Type::Parallel; };
+        return is_validated(Ability::IO_Type) || type == m_preset ||
+               (m_has_ports && is_local(type) && is_local(m_preset) && method_of(type));
+    }
+
+    // What a run asks of serial lines alone.
     void check_serial_lines() const {
+        if (!has(Ability::IO_Type) || !is_left(Type::Serial))
+            return;
         const auto method = method_of(Type::Serial);
         const std::wstring way = way_to(Type::Serial);
         const bool has_protocol = is_validated(Ability::IO_Protocol);
         const bool has_rate = is_validated(Ability::IO_Baud_Rate);
+        const bool has_handshake = is_validated(Ability::IO_Handshake);
         if (!m_has_methods) {
             // Put to its default, it is empty; no other is near.
             if (has_protocol) {
@@ -184,24 +199,29 @@ private:
             if (has_rate)
                 m_found.repeats(L"baud rate", Fault::Method_Missing, Change::Baud_Rate);
         } else if (!method) {
-            if (has_protocol || has_rate || is_validated(Ability::IO_Handshake))
+            if (has_protocol || has_rate || has_handshake)
                 m_found.throws(way, Fault::Method_Missing, PX_Code::Null_Argument, L"extramethod");
         } else {
-            if (has_protocol && has(*method, Method_Ability::Method_Default_Protocol))
+            if (has(Ability::IO_Protocol) && has(*method, Method_Ability::Method_Default_Protocol))
                 check_protocols(*method, way);
-            if (has_rate && has(*method, Method_Ability::Method_Default_Baud_Rate))
+            if (has(Ability::IO_Baud_Rate) && has(*method, Method_Ability::Method_Default_Baud_Rate))
                 check_rates(*method, way);
             const long handshake = method->get_default_handshake();
             if (has(Ability::IO_Handshake) && has(*method, Method_Ability::Method_Default_Handshake) &&
                 (handshake & ~method->get_handshakes()) != 0)
                 m_found.passes_over(px_in(way, L"default handshake"), Fault::Default_Not_Offered);
         }
+        // The default is written without a port, and no missing port has a handshake.
+        if (has_handshake && !m_has_ports && m_preset == Type::Serial &&
+            (!m_has_methods || (method && has(*method, Method_Ability::Method_Default_Handshake))))
+            m_found.repeats(L"handshake", Fault::Type_Never_Valid, Change::Handshake);
     }
 
+    // Defaults are written whether or not the datum is validated, and ask the lists all the same.
     void check_protocols(const PX_IO_Method& method, const std::wstring& way) const {
         const auto protocols = method.get_protocol_list();
-        px_check_names(protocols, way, L"protocol", m_found);
-        if (!has(method, Method_Ability::Method_Protocol_List))
+        px_check_names(protocols, way, L"protocol", px_passing_over(m_found));
+        if (!has(method, Method_Ability::Method_Protocol_List) && is_validated(Ability::IO_Protocol))
             m_found.repeats(px_in(way, L"protocols"), Fault::List_Not_Counted, Change::Protocol);
         bool has_one = false;
         px_for_each_there(protocols, [&](const PX_Protocol& protocol) {
@@ -220,24 +240,32 @@ private:
     }
 
     void check_rates(const PX_IO_Method& method, const std::wstring& way) const {
-        if (!has(method, Method_Ability::Method_Baud_Rate_List))
-            return m_found.repeats(px_in(way, L"baud rates"), Fault::List_Not_Counted, Change::Baud_Rate);
+        const std::wstring rates = px_in(way, L"baud rates");
+        const std::wstring object = px_in(way, L"default baud rate");
         const long preset = method.get_default_baud_rate();
-        int usable = 0;
+        if (!has(method, Method_Ability::Method_Baud_Rate_List)) {
+            // The search asks for the list too, and has no method without.
+            if (is_validated(Ability::IO_Baud_Rate)) {
+                m_found.repeats(rates, Fault::List_Not_Counted, Change::Baud_Rate);
+                m_found.throws(rates, Fault::List_Not_Counted, PX_IO_Code::No_Usable_Rate);
+            }
+            return;
+        }
+        std::unordered_set<long> usable;
         bool has_default = false;
-        if (const auto rates = method.get_baud_rate_list()) {
-            for (const auto& rate : *rates) {
+        if (const auto offered = method.get_baud_rate_list()) {
+            for (const auto& rate : *offered) {
                 if (!px_is_there(rate))
                     continue;
-                usable += rate->get_baud_rate() > 0;
+                if (rate->get_baud_rate() > 0)
+                    usable.insert(rate->get_baud_rate());
                 has_default = has_default || rate->get_baud_rate() == preset;
             }
         }
-        const std::wstring object = px_in(way, L"default baud rate");
-        if (usable == 0)
-            m_found.throws(px_in(way, L"baud rates"), Fault::Nothing_To_Take, PX_IO_Code::No_Usable_Rate);
+        if (usable.empty())
+            m_found.throws(rates, Fault::Nothing_To_Take, PX_IO_Code::No_Usable_Rate);
         // Put to the default again, the one rate has no other beside it; of several, another comes each time.
-        else if (!has_default && usable == 1)
+        else if (!has_default && usable.size() == 1)
             m_found.throws(object, Fault::Default_Not_Offered, PX_IO_Code::No_Usable_Rate);
         else if (!has_default)
             m_found.passes_over(object, Fault::Default_Not_Offered);
@@ -295,7 +323,8 @@ private:
             if (!m_has_methods || !has(timeout.gate))
                 continue;
             for (const auto& method : *m_device.get_method_list()) {
-                if (!px_is_there(method) || method_of(method->get_type()) != method)
+                if (!px_is_there(method) || method_of(method->get_type()) != method ||
+                    !is_left(method->get_type()))
                     continue;
                 const long least = ((*method).*timeout.least)();
                 const long greatest = ((*method).*timeout.greatest)();

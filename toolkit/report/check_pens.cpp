@@ -25,8 +25,9 @@ void check_measure_of_pen(float least, float preset, float greatest, const wchar
 
 }  // namespace
 
-void px_check_pens(const PX_PhysPen_Capabilities& device, const PX_Findings& found) {
-    const auto of = [&](Ability::Enum flag) { return PX_Ability_Of(device.get_one_ability(flag)); };
+void px_check_pens(const PX_PhysPen_Capabilities& device, const PX_Plotter_Class_Factory* factory,
+                   const PX_Findings& found) {
+    const auto of = [&](Ability::Enum flag) { return px_ability_of(device, gates, flag); };
     px_check_gates(device, gates, found);
 
     // Looked at whatever the abilities are.
@@ -45,10 +46,14 @@ void px_check_pens(const PX_PhysPen_Capabilities& device, const PX_Findings& fou
         found.repeats(
             L"number of pens", Fault::Default_Not_Written,
             px_bits_if(number_is_validated, Change::Number) | px_bits_if(list_is_validated, Change::List));
+    // It makes the lists, an empty one too, and the pens.
+    if (list_is_validated && !factory)
+        found.throws(L"class factory", Fault::Object_Missing, PX_Code::Null_Argument, L"class_factory");
+    const bool pens_are_validated = list_is_validated && device.get_max_number_of_physical_pens() > 0;
     check_measure_of_pen(device.get_min_pen_width(), device.get_default_pen_width(),
-                         device.get_max_pen_width(), L"pen width", list_is_validated, found);
+                         device.get_max_pen_width(), L"pen width", pens_are_validated, found);
     check_measure_of_pen(device.get_min_pen_speed(), device.get_default_pen_speed(),
-                         device.get_max_pen_speed(), L"pen speed", list_is_validated, found);
+                         device.get_max_pen_speed(), L"pen speed", pens_are_validated, found);
     if (of(Ability::Pen_Ability_Optimization_Check).is_validated() &&
         !of(Ability::Pen_Ability_Optimization).is_above_none())
         found.repeats(L"pen optimization", Fault::Default_Not_Written, Change::Optimization);

@@ -5,26 +5,19 @@
 using Fault = PX_Device_Fault;
 using Mask = PX_Domain_Mask;
 
-void px_check_init_term(const PX_InitTerm_Capabilities& device, const PX_Findings& found) {
-    using Flag = PX_InitTerm_Ability_Flags;
-    constexpr PX_Gate<Flag> gates[] = {{Flag::Preinit_String, L"preinit string"},
-                                       {Flag::Postinit_String, L"postinit string"},
-                                       {Flag::Termination_String, L"termination string"}};
-    px_check_gates(device, gates, found);
-}
-
 namespace {
 
 class Device_Check {
 public:
     explicit Device_Check(const PX_Plotter_Definition& device)
-        : m_identity(device.get_meta_capabilities()), m_root(device.get_plotter_capabilities()) {
+        : m_factory(device.get_class_factory()),
+          m_identity(device.get_meta_capabilities()),
+          m_root(device.get_plotter_capabilities()) {
         const PX_Findings found(m_findings, 0);
         const auto require = [&](const auto& object, const wchar_t* name, const wchar_t* detail) {
             if (!object)
                 found.throws(name, Fault::Object_Missing, PX_Code::Null_Argument, detail);
         };
-        require(device.get_class_factory(), L"class factory", L"class_factory");
         require(device.get_plotter_validator(), L"plotter validator", L"plotter validator");
         require(m_root, L"capabilities", L"plotter_caps or plotter_cfg");
     }
@@ -34,7 +27,8 @@ public:
             return std::move(m_findings);
         const auto* const identity = m_identity.get();
         check(m_root->get_media_capabilities(), Mask::Media, L"media_caps or media_cfg", px_check_media);
-        check(m_root->get_phys_pen_capabilities(), Mask::Phys_Pens, L"pen_caps or pen_cfg", px_check_pens);
+        check(m_root->get_phys_pen_capabilities(), Mask::Phys_Pens, L"pen_caps or pen_cfg",
+              [&](const auto& device, const auto& found) { px_check_pens(device, m_factory.get(), found); });
         check(m_root->get_res_color_mem_capabilities(), Mask::Res_Color_Mem, L"rcm_caps or rcm_config",
               [&](const auto& device, const auto& found) { px_check_color(device, identity, found); });
         check(m_root->get_init_term_capabilities(), Mask::Init_Term, L"initterm_caps or initterm_cfg",
@@ -57,6 +51,7 @@ private:
     }
 
     std::vector<PX_Device_Finding> m_findings;
+    PX_Smart_Pointer<PX_Plotter_Class_Factory> m_factory;
     PX_Smart_Pointer<PX_Meta_Capabilities> m_identity;
     PX_Smart_Pointer<PX_Plotter_Capabilities> m_root;
 };

@@ -15,7 +15,7 @@ struct PX_Device_Fault {
         List_Missing = 2,         // null, where an empty one would do
         Nothing_To_Take = 3,      // a list without an entry that a search could take
         Ability_Undefined = 4,    // a digit that is none of the abilities
-        Equal_Names = 5,          // an earlier entry bears the same name: this one is never found
+        Equal_Names = 5,          // an earlier entry bears the same name, and is found in its place
         Name_Empty = 6,           // of a source, which then counts as none
         Names_Nothing = 7,        // no entry bears the name
         Names_Withdrawn = 8,      // the entry of the name is withdrawn
@@ -44,15 +44,17 @@ struct PX_Device_Fault {
 struct PX_Device_Effect {
     enum Enum : int {
         Passed_Over = 0,  // a run never takes it, or silently something else in its place
-        Repeats = 1,      // a run repairs the datum, and the next one, its flags down, does so again
+        Repeats = 1,      // a run repairs it, and the next one again, once it is not marked as validated
         Throws = 2,       // a run ends with the code
     };
 };
 
 // One thing that is wrong.
 struct PX_Device_Finding {
-    long domain;          // its bit of PX_Domain_Mask; 0 for what belongs to the whole device
-    std::wstring object;  // the way to it, such as "source 'tray', entry 'upper', default size"
+    long domain;  // its bit of PX_Domain_Mask; 0 for what belongs to the whole device
+    // The way to it, such as "source 'tray', entry 'upper', default size". Of a name that is met again, with
+    // the place in its list, the first is 1.
+    std::wstring object;
     PX_Device_Fault::Enum fault;
     PX_Device_Effect::Enum effect;
     unsigned int code;    // of the exception, with its detail; 0 where nothing is thrown
@@ -69,16 +71,17 @@ struct PX_Device_Finding {
 // Which codes are thrown is told of the standard validators. A driver that answers for a fault in a validator
 // of its own takes the finding out.
 //
-// Told is what the device alone brings about, for some choice, strategy and policy that looks at the choice.
-// Not told is what only a choice or a machine can do: a feed that no source has, under Use_Nearest; an item
-// of no setting; a way out that passes without a method; what a port lacks; several selection methods at
-// once; a policy that keeps data unseen which others rely on. Nor are the two rules by which every device
-// raises bits again: the nearest destination leaves the finishing options alone, and a plot to a file never
-// keeps its path.
+// Told is what the device alone brings about, for some choice, strategy and policy that looks at the choice;
+// of several faults, what each of them does when the others are mended. Not told is what only a choice or a
+// machine can do: a feed that no source has, under Use_Nearest; numbers that nothing is near to; an item of
+// no setting; a way out that passes without a method; what a port lacks; several selection methods at once; a
+// policy that keeps data unseen which others rely on. Nor are the three rules by which every device raises
+// bits again: the nearest destination leaves the finishing options alone, a plot to a file never keeps its
+// path, and the default size of a turned choice lays the actual printable bounds so that they are cut back.
 std::vector<PX_Device_Finding> px_check_device(const PX_Plotter_Definition& device);
 
 // Each is in English, without a full stop: the domain, the fault, what comes of it, and all of it on one
-// line.
+// line, whatever the names are.
 const wchar_t* px_domain_text(const PX_Device_Finding& finding);
 const wchar_t* px_fault_text(PX_Device_Fault::Enum fault);
 std::wstring px_effect_text(const PX_Device_Finding& finding);

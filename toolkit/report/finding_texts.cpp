@@ -33,7 +33,7 @@ const wchar_t* px_fault_text(PX_Device_Fault::Enum fault) {
         case Fault::Ability_Undefined:
             return L"is none of the abilities";
         case Fault::Equal_Names:
-            return L"has the name of an earlier entry, and is never found";
+            return L"has the name of an earlier entry, which is found in its place";
         case Fault::Name_Empty:
             return L"has no name, and counts as none";
         case Fault::Names_Nothing:

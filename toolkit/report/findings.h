@@ -2,10 +2,13 @@
 
 #include <cmath>
 #include <string>
+#include <unordered_map>
+#include <unordered_set>
 #include <utility>
 #include <vector>
 
 #include "toolkit/report/device_check.h"
+#include "toolkit/report/text.h"
 
 // What the checks of the domains have in common.
 
@@ -46,7 +49,13 @@ public:
     // As a gate: some policy validates the datum.
     bool is_validated() const { return m_value >= PX_Ability_Value::Ability_Settable; }
     bool is_listed() const { return m_value >= PX_Ability_Value::Ability_Settable_Listed; }
+    bool is_conditional() const { return m_value == PX_Ability_Value::Ability_Conditional; }
     bool is_required() const { return m_value == PX_Ability_Value::Ability_Required; }
+    // As gates: whether some run validates the one datum and not the other.
+    bool is_validated_without(PX_Ability_Of other) const {
+        return is_validated() && !other.is_required() &&
+               (!other.is_validated() || is_required() || is_conditional() != other.is_conditional());
+    }
 
 private:
     PX_Ability_Value::Enum m_value;
@@ -68,6 +77,21 @@ void px_check_gates(const Capabilities& capabilities, const PX_Gate<Flags> (&gat
     }
 }
 
+// An undefined gate is told by itself. For all other findings it counts as required: none is hidden by it,
+// and none comes of it.
+template <class Capabilities, class Flags, std::size_t count>
+PX_Ability_Of px_ability_of(const Capabilities& capabilities, const PX_Gate<Flags> (&gates)[count],
+                            typename Flags::Enum flag) {
+    const PX_Ability_Of ability = capabilities.get_one_ability(flag);
+    if (ability.is_undefined()) {
+        for (const PX_Gate<Flags>& gate : gates) {
+            if (gate.flag == flag)
+                return PX_Ability_Value::Ability_Required;
+        }
+    }
+    return ability;
+}
+
 // The bits of data that some policy validates; no other raises its bit.
 constexpr long px_bits_if(bool is_validated, long bits) {
     return is_validated ? bits : 0;
@@ -78,9 +102,10 @@ inline const wchar_t* px_text(const wchar_t* text) {
     return text ? text : L"";
 }
 
-// The way to an object, a step at a time: kind 'name', kind 'name'.
+// The way to an object, a step at a time: kind 'name', kind 'name'. It stays on its line whatever the name
+// is.
 inline std::wstring px_named(const wchar_t* kind, const wchar_t* name) {
-    return std::wstring(kind) + L" '" + px_text(name) + L"'";
+    return std::wstring(kind) + L" '" + px_line_of(px_text(name)) + L"'";
 }
 template <class Entry>
 std::wstring px_named(const wchar_t* kind, const Entry& entry) {
@@ -95,14 +120,42 @@ bool px_is_withdrawn(const Entry& entry) {
     return entry.get_caps_type() == PX_Caps_Type::Caps_Type_Withdrawn;
 }
 
+// The first entry of each name, as the list finds it. The list outlives this.
+template <class Entry>
+class PX_Names {
+public:
+    using List = PX_Smart_Pointer<PX_Named_Object_List<Entry>>;
+
+    // No list has no names.
+    explicit PX_Names(const List& list) {
+        if (!list)
+            return;
+        for (const auto& entry : *list) {
+            const wchar_t* const name = entry ? entry->get_canonical_name() : nullptr;
+            if (name)
+                m_first.try_emplace(name, &entry);
+        }
+    }
+
+    PX_Smart_Pointer<Entry> find(const wchar_t* name) const {
+        const auto place = m_first.find(px_text(name));
+        return place == m_first.end() ? nullptr : *place->second;
+    }
+
+private:
+    std::unordered_map<std::wstring, const PX_Smart_Pointer<Entry>*> m_first;
+};
+
 // The entries that a choice can name. Where no default is written, a choice of a withdrawn one stays. No list
 // has none.
 template <class Entry, class Visit>
 void px_for_each_named(const PX_Smart_Pointer<PX_Named_Object_List<Entry>>& list, Visit visit) {
     if (!list)
         return;
+    std::unordered_set<std::wstring> met;
     for (const auto& entry : *list) {
-        if (entry && list->find(entry->get_canonical_name()) == entry)
+        const wchar_t* const name = entry ? entry->get_canonical_name() : nullptr;
+        if (name && met.insert(name).second)
             visit(*entry);
     }
 }
@@ -130,23 +183,51 @@ bool px_has_one_there(const PX_Smart_Pointer<PX_Named_Object_List<Entry>>& list)
     return px_has_one_there(list, [](const Entry&) { return true; });
 }
 
-// `kind` is what an entry is called. A search that comes upon the later of two entries writes its name, and
-// the earlier one is found by it: a withdrawn one is repaired with every run, which raises `bits`.
-template <class Entry>
+// Calls `tell(the way to it, entry, the earlier one)` for each entry whose name an earlier one bears. `kind`
+// is what an entry is called.
+template <class Entry, class Tell>
 void px_check_names(const PX_Smart_Pointer<PX_Named_Object_List<Entry>>& list, const std::wstring& outer,
-                    const wchar_t* kind, const PX_Findings& found, long bits = 0) {
+                    const wchar_t* kind, Tell tell) {
     if (!list)
         return;
+    const PX_Names<Entry> names(list);
+    int place = 0;
     for (const auto& entry : *list) {
-        const auto first = entry ? list->find(entry->get_canonical_name()) : nullptr;
-        if (first == entry)
-            continue;
-        const std::wstring object = px_in(outer, px_named(kind, *entry));
-        if (bits && px_is_there(entry) && !px_is_there(first))
+        ++place;
+        const auto first = entry ? names.find(entry->get_canonical_name()) : nullptr;
+        if (first != entry)
+            tell(px_in(px_in(outer, px_named(kind, *entry)), L"place " + std::to_wstring(place)), entry,
+                 first);
+    }
+}
+// Whether a search that comes upon the later of two entries, and writes its name, has chosen a withdrawn one.
+template <class Entry>
+bool px_falls_back(const PX_Smart_Pointer<Entry>& later, const PX_Smart_Pointer<Entry>& first) {
+    return px_is_there(later) && first && px_is_withdrawn(*first);
+}
+// What is told of the later ones: that they are never found; or, where a search comes upon them, that the
+// withdrawn one is repaired with every run, which raises `bits`.
+inline auto px_passing_over(const PX_Findings& found) {
+    return [&found](const std::wstring& object, const auto& /*later*/, const auto& /*first*/) {
+        found.passes_over(object, PX_Fault::Equal_Names);
+    };
+}
+inline auto px_repeating(const PX_Findings& found, long bits) {
+    return [&found, bits](const std::wstring& object, const auto& later, const auto& first) {
+        if (bits && px_falls_back(later, first))
             found.repeats(object, PX_Fault::Equal_Names, bits);
         else
             found.passes_over(object, PX_Fault::Equal_Names);
-    }
+    };
+}
+// The withdrawn ones that a search chooses in this way.
+template <class Entry, class Visit>
+void px_for_each_fallen_back_on(const PX_Smart_Pointer<PX_Named_Object_List<Entry>>& list, Visit visit) {
+    std::unordered_set<const Entry*> met;
+    px_check_names(list, L"", L"", [&](const std::wstring&, const auto& later, const auto& first) {
+        if (px_falls_back(later, first) && met.insert(first.get()).second)
+            visit(*first);
+    });
 }
 
 // What a name that stands for `entry` is to be called, when it is not there.
@@ -155,12 +236,11 @@ PX_Fault::Enum px_fault_of_name(const PX_Smart_Pointer<Entry>& entry) {
     return entry ? PX_Fault::Names_Withdrawn : PX_Fault::Names_Nothing;
 }
 
-// What the searches can measure; their scores end at the greatest number of 32 bits.
-inline bool px_is_measure(float number) {
-    return std::fabs(number) < 1e8F;
-}
-inline bool px_is_measure(const PX_Float_XY& pair) {
-    return px_is_measure(pair.x) && px_is_measure(pair.y);
+// Where the scores of most searches end: nothing is near that is so far from a choice that was never made.
+inline constexpr double px_worst_score = 2147483647.0;
+
+inline bool px_is_finite(const PX_Float_XY& pair) {
+    return std::isfinite(pair.x) && std::isfinite(pair.y);
 }
 inline bool px_is_nan(const PX_Float_XY& pair) {
     return std::isnan(pair.x) || std::isnan(pair.y);
@@ -175,12 +255,15 @@ Value px_value(const PX_Smart_Pointer<Value>& value) {
     return value ? *value : Value();
 }
 
-// What is no number is never equal to its snapshot, and nothing is near to it: the search, where one looks
-// for the validated datum, ends with `detail`. What cannot be measured is never the nearest.
-inline void px_check_measure(bool is_nan, bool is_measure, const std::wstring& object, bool is_validated,
-                             const wchar_t* detail, const PX_Findings& found) {
-    if (is_nan && is_validated)
+// Of a validated datum. What is no number is never equal to its snapshot, and nothing is near to it: the
+// search ends with `detail`, and where it is the default that is written, every run writes it again and
+// raises `bits`. What cannot be measured is never the nearest.
+inline void px_check_measure(bool is_nan, bool is_measure, const std::wstring& object, const wchar_t* detail,
+                             bool is_default, long bits, const PX_Findings& found) {
+    if (is_nan)
         found.throws(object, PX_Fault::No_Measure, PX_Code::Null_Argument, detail);
-    else if (!is_measure)
+    else if (!is_measure && !is_default)
         found.passes_over(object, PX_Fault::No_Measure);
+    if (is_nan && is_default)
+        found.repeats(object, PX_Fault::No_Measure, bits);
 }

@@ -28,7 +28,7 @@ std::string escaped(std::string_view bytes) {
 
 }  // namespace
 
-std::string px_on_one_line(std::wstring_view text) {
+std::wstring px_line_of(std::wstring_view text) {
     std::wstring line;
     bool blank = false;
     for (const wchar_t character : text) {
@@ -41,7 +41,11 @@ std::string px_on_one_line(std::wstring_view text) {
         blank = false;
         line += character;
     }
-    return px_to_utf8(line);
+    return line;
+}
+
+std::string px_on_one_line(std::wstring_view text) {
+    return px_to_utf8(px_line_of(text));
 }
 
 std::string px_quoted(const wchar_t* name) {

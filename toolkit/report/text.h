@@ -4,7 +4,9 @@
 #include <string_view>
 
 // For a terminal, a log or a name: every run of blanks, control characters and line separators as one blank,
-// none at the ends. In UTF-8; what is no character becomes U+FFFD.
+// none at the ends.
+std::wstring px_line_of(std::wstring_view text);
+// The same in UTF-8; what is no character becomes U+FFFD.
 std::string px_on_one_line(std::wstring_view text);
 
 // The same in quotes; "(none)" for an empty name. Null is the empty one.

@@ -1,6 +1,7 @@
 #include "toolkit/marvcon/std_media_cfg/validator.h"
 
 #include "toolkit/marvcon/std_media_cfg/datum.h"
+#include "toolkit/marvcon/std_media_cfg/largest_sheet.h"
 
 // The tests of the selection chain: method, type, source, entry, size, destination. Each later datum relies
 // on the earlier ones.
@@ -92,9 +93,8 @@ bool is_withdrawn(const auto& entry) {
     return entry && !px_is_there(entry);
 }
 
-// Whether the sheet of the configured size is there and within the largest one that the device takes. The two
-// ways of selection differ on purpose in what a roll does to the height. What is missing is reported where it
-// is needed.
+// Whether the sheet of the configured size is there and within the largest one that the device takes. What is
+// missing is reported where it is needed.
 template <class Fits>
 bool sheet_fits(const PX_Media_Datum& datum, Fits fits) {
     const auto size = px_configured_size(datum);
@@ -119,8 +119,7 @@ bool is_offered_by_source(const PX_Media_Datum& datum) {
     const bool roll = source->get_media_feed() == PX_Media_Feed::Media_Feed_Roll &&
                       datum.is_above_none(Ability::Ability_Roll_Limit);
     return sheet_fits(datum, [&](const PX_Float_XY& sheet, const PX_Float_XY& largest) {
-        return sheet.x <= largest.x &&
-               sheet.y <= (roll ? datum.capabilities->get_media_roll_max_height() : largest.y);
+        return px_fits_source(sheet, largest, roll, datum.capabilities->get_media_roll_max_height());
     });
 }
 
@@ -130,10 +129,8 @@ bool is_offered_directly(const PX_Media_Datum& datum) {
         datum.fail(PX_Media_Code::No_Sizes);
     if (!px_is_there(sizes->find(datum.configuration->get_media_size())))
         return false;
-    // The roll height widens the limit here for any size, with or without a roll.
     return sheet_fits(datum, [&](const PX_Float_XY& sheet, const PX_Float_XY& largest) {
-        return !(sheet.x > largest.x) &&
-               (sheet.y <= largest.y || !(sheet.y > datum.capabilities->get_media_roll_max_height()));
+        return px_fits_directly(sheet, largest, datum.capabilities->get_media_roll_max_height());
     });
 }
 

@@ -1,6 +1,7 @@
 #include "toolkit/marvcon/std_res_color_mem_cfg/validator.h"
 
 #include "toolkit/marvcon/std_res_color_mem_cfg/datum.h"
+#include "toolkit/marvcon/std_res_color_mem_cfg/memory_areas.h"
 
 using Ability = PX_ResColorMem_Ability_Flags;
 using Datum = PX_ResColorMem_Config_Flags;
@@ -38,47 +39,6 @@ PX_Smart_Pointer<PX_Resolution> required_resolution(const PX_RCM_Datum& datum, c
     if (!resolution)
         datum.fail(PX_Code::Null_Argument, L"resolution");
     return resolution;
-}
-
-// Takes the names of the areas one after the other.
-class Area_Names {
-public:
-    Area_Names(const PX_RCM_Datum& datum, const PX_Named_Object_List<PX_Caps_Name_List_Object>& names)
-        : m_datum(datum), m_next(names.begin()), m_end(names.end()) {}
-
-    bool has_next() const { return m_next != m_end; }
-    // Null past the end, and for a name that no area has.
-    PX_Smart_Pointer<PX_Mem_Area> next() {
-        if (!has_next())
-            return nullptr;
-        const auto& name = *m_next;
-        ++m_next;
-        return name ? m_datum.capabilities->get_mem_area(name->get_canonical_name()) : nullptr;
-    }
-
-private:
-    using Iterator = PX_Named_Object_List<PX_Caps_Name_List_Object>::const_iterator;
-
-    const PX_RCM_Datum& m_datum;
-    Iterator m_next;
-    Iterator m_end;
-};
-
-// Each pass takes up to three names: the first has only to be there, the second not to be withdrawn, and the
-// third is the one whose memory counts. It is meant so; this is no loop over single names.
-bool is_memory_of_an_area(const PX_RCM_Datum& datum, const PX_Resolution& resolution) {
-    const auto list = resolution.get_mem_area_name_list();
-    if (!list)
-        return false;
-    const long installed = datum.configuration->get_installed_memory();
-    for (Area_Names areas(datum, *list); areas.has_next();) {
-        if (!areas.next() || !px_is_there(areas.next()))
-            continue;
-        const auto counted = areas.next();
-        if (px_is_there(counted) && counted->get_device_memory() == installed)
-            return true;
-    }
-    return false;
 }
 
 }  // namespace
@@ -145,7 +105,8 @@ void PX_Std_ResColorMem_Validator::validate_installed_memory(Strategy::Enum /*st
     if (datum.is_required(Ability::RCM_Mem_Area)) {
         const auto mode = required_mode(datum);
         const auto resolution = required_resolution(datum, *mode);
-        if (!is_memory_of_an_area(datum, *resolution))
+        if (!px_is_memory_of_an_area(*datum.capabilities, *resolution,
+                                     datum.configuration->get_installed_memory()))
             datum.repair(px_change_bit(Datum::RCM_Cfg_Installed_Memory),
                          [&] { set_installed_memory_to_default(); });
     }

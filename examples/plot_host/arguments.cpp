@@ -46,14 +46,16 @@ CLI::Validator one_of(const PX_Word<Value> (&words)[count]) {
 }
 
 // For a range alone, nan is neither too small nor too large.
-const CLI::Validator a_number(
-    [](const std::string& word) {
-        double number = 0;
-        return CLI::detail::lexical_cast(word, number) && std::isnan(number)
-                   ? "Value " + word + " is no number"
-                   : std::string();
-    },
-    "");
+CLI::Validator a_number() {
+    return CLI::Validator(
+        [](const std::string& word) {
+            double number = 0;
+            return CLI::detail::lexical_cast(word, number) && std::isnan(number)
+                       ? "Value " + word + " is no number"
+                       : std::string();
+        },
+        "");
+}
 
 template <class Value, std::size_t count>
 void add_choice_of(CLI::App& app, const char* option, const PX_Word<Value> (&words)[count], Value& value,
@@ -137,7 +139,7 @@ void add_plot_options(CLI::App& app, Arguments& arguments, std::vector<std::stri
     app.add_flag("--round-dots", arguments.round_dots, "draw fat dots as circles, not as squares")->needs(to);
     app.add_option("--tessellation", arguments.tessellation, "factor for the number of a circle's sides")
         ->check(CLI::Range(0.1, 100.0))
-        ->check(a_number)
+        ->check(a_number())
         ->type_name("FACTOR")
         ->capture_default_str()
         ->needs(to);

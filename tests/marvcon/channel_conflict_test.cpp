@@ -1,4 +1,3 @@
-
 #include "tests/support/fields.h"
 #include "tests/support/plot_job.h"
 

@@ -359,7 +359,7 @@ TEST(PosixPrintServer, ThatIsSilentIsWaitedForOnceForAllPorts) {
     }
     PX_Module_Exit();
     const int visitors = listener.visitors();
-    EXPECT_TRUE(visitors == 1 || visitors == 2) << visitors;
+    EXPECT_TRUE(visitors >= 2 && visitors <= 4) << visitors;
 
     platform.use_print_server("127.0.0.1", listener.port);
     DWORD needed = 0;

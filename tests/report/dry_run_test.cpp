@@ -193,6 +193,22 @@ TEST(Fit_Custom_Items, KeepsTheValuesOfTheSettingsThatAreThere) {
     EXPECT_EQ(items, L"fan true vd, gap long 5 --, ");
 }
 
+TEST(Fit_Custom_Items, StayWhereTheDeviceCannotSayItsDefaults) {
+    const Device device;
+    device.custom_caps()->get_custom_list()->append(setting(L"fan", of(true)));
+    device.custom_caps()->get_custom_list()->append(setting(L"gap", nullptr));
+    device.custom_cfg()->get_custom_list()->append(item(L"gap", of(5L)));
+    device.custom_cfg()->get_custom(L"gap")->set_validated(true);
+    const auto shown = [&] { return show(*device.custom_cfg()->get_custom_list()->find(L"gap")); };
+    const std::wstring before = shown();
+    const auto thrown = thrown_by([&] { px_fit_custom_items(*device.get()); });
+    ASSERT_TRUE(thrown);
+    EXPECT_EQ(thrown->code, 1103U);
+    EXPECT_EQ(thrown->detail, L"default_data_value");
+    EXPECT_EQ(device.custom_cfg()->get_custom_list()->size(), 1);
+    EXPECT_EQ(shown(), before);
+}
+
 // Two runs that end early: over an item that the device has no setting for, and over the feed of a source.
 TEST(Dry_Run, TellsHowFarAFailingRunCame) {
     for (const auto& [code, detail] : {std::pair(704, L""), {1103, L"newsource"}}) {
@@ -225,7 +241,7 @@ TEST(Dry_Run, TellsHowFarAFailingRunCame) {
         std::ostringstream out;
         px_print_changes(out, told);
         const std::string last = has_sheets ? "error 704: what" : "error 1103, \"newsource\": what";
-        EXPECT_NE(out.str().find("The run failed with " + last + " it did not reach is as it was.\n"),
+        EXPECT_NE(out.str().find("The run failed with " + last + " it did not reach is not validated.\n"),
                   std::string::npos)
             << out.str();
     }
@@ -248,6 +264,17 @@ TEST(Dry_Run, TellsApartWhatWasPrepared) {
     const PX_Datum_Change* const scale = told.find({PX_Domain_Mask::Media, Cfg::Cfg_Dm_Scale});
     EXPECT_EQ(px_word_of_outcome(*scale), "prepared");
     EXPECT_TRUE(scale->is_changed() && !scale->is_silent() && !scale->prepared);
+    device.media_caps()->set_one_ability(PX_Ability_Value::Ability_Fixed,
+                                         PX_Media_Ability_Flags::Ability_Dm_Scale);
+    const long had = device.media_cfg()->get_dm_scale();
+    device.media_cfg()->set_dm_scale(device.media_caps()->get_default_dm_scale());
+    const auto undone =
+        px_dry_run(*device.get(), device.root(), {}, [&] { device.media_cfg()->set_dm_scale(75); });
+    const PX_Datum_Change* const again = undone.find({PX_Domain_Mask::Media, Cfg::Cfg_Dm_Scale});
+    EXPECT_TRUE(px_word_of_outcome(*again) == "reset" && again->is_silent() && again->prepared) << "undone";
+    device.media_cfg()->set_dm_scale(had);
+    device.media_caps()->set_one_ability(PX_Ability_Value::Ability_Required,
+                                         PX_Media_Ability_Flags::Ability_Dm_Scale);
     const auto untouched = px_dry_run(*device.get(), device.root(), {});
     EXPECT_EQ(told.get_changed(), untouched.get_changed() + 3) << "the pens too";
     EXPECT_EQ(told.get_silent(), untouched.get_silent());

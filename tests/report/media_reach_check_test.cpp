@@ -79,6 +79,28 @@ TEST(MediaCheck, WhatNoRunReachesIsNoFinding) {
              const PX_Float_Rectangle line(5, 5, 5, 100);
              m.a4_sheet()->set_printable_bounds(&line);
          }},
+        {"sources beside the one that nobody can choose",
+         [](M& m) {
+             m.set_ability(Ability::Ability_Media_Source, 1);
+             m.tray()->set_source_entry_list(nullptr);
+             m.sources()->find(L"drawer")->set_default_source_entry(L"x");
+             m.limit({297, 420}, 419);
+             m.sources()->find(L"drawer")->get_source_entry(L"only")->set_default_media_size(L"x");
+         }},
+        {"entries beside those that nobody can choose",
+         [](M& m) {
+             m.set_ability(Ability::Ability_Media_Source_Entry, 1);
+             m.upper()->set_default_media_size(L"x");
+         }},
+        {"sizes beside those that nobody can choose",
+         [](M& m) {
+             for (const Ability::Enum fixed :
+                  {Ability::Ability_Media_Source, Ability::Ability_Media_Source_Entry,
+                   Ability::Ability_Media_Size})
+                 m.set_ability(fixed, 1);
+             const PX_Float_Rectangle line(5, 5, 5, 100);
+             m.a4_sheet()->set_printable_bounds(&line);
+         }},
         {"size of no source",
          [&](M& m) {
              m.only_by_source();

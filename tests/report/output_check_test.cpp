@@ -30,6 +30,12 @@ struct Output {
         io->add_rate(rate);
         io->cfg.set_baud_rate(rate);
     }
+    // On a device whose default is the serial line.
+    void choose_parallel() const {
+        io->caps.set_default_type(PX_IO_Type::Serial);
+        io->cfg.set_type(PX_IO_Type::Parallel);
+        io->cfg.set_portname(L"LPT1");
+    }
     void lose_parallel_port() {
         PX_Module_Exit();
         other_machine.add_port(L"COM1:");
@@ -116,6 +122,20 @@ TEST(OutputCheck, WhatIsWrong) {
         {"protocol of a parallel port",
          [](O& o) { o.io->parallel.set_one_ability(Number{4}, Method::Method_Default_Protocol); },
          throws(L"method 'parallel', default protocol", Fault::Type_Never_Valid, 217), How::All_To_Defaults},
+        {"protocol of a type that is not the default",
+         [](O& o) {
+             o.choose_parallel();
+             o.io->parallel.set_one_ability(Number{4}, Method::Method_Default_Protocol);
+             o.set_ability(Ability::IO_Protocol, 1);
+         },
+         throws(L"method 'parallel', default protocol", Fault::Type_Never_Valid, 217)},
+        {"rate of a type that is not the default",
+         [](O& o) {
+             o.choose_parallel();
+             o.io->parallel.set_one_ability(Number{4}, Method::Method_Default_Baud_Rate);
+             o.set_ability(Ability::IO_Baud_Rate, 1);
+         },
+         throws(L"method 'parallel', default baud rate", Fault::Type_Never_Valid, 215)},
         {"rate without a port",
          [](O& o) {
              o.set_ability(Ability::IO_System_Ports, 0);

@@ -20,7 +20,8 @@ bool goes_to_nearest(const PX_Report_Datum& datum, const PX_Reported_Run& run, S
 // What the default operation has made of a datum that was not looked at.
 Kind::Enum kind_of_default(const PX_Report_Datum& datum, const PX_Report_State& state,
                            const PX_Reported_Run& run) {
-    if (datum.keeps_at_default && datum.keeps_at_default(run.capabilities))
+    // The default operation marks a default, and a run that fails may not have come to it.
+    if (datum.keeps_at_default && (datum.keeps_at_default(run.capabilities) || !state.is_default))
         return Kind::Followed;
     // What the device does not have at all is cleared, which marks no default either.
     const bool is_had = state.gate != PX_Ability_Value::Ability_None;
@@ -67,14 +68,15 @@ PX_Datum_Change row_of(const PX_Report_Datum& datum, const PX_Configuration_Snap
     row.is_validated = state.validated;
     row.is_default = state.is_default;
     const PX_Datum_Value* const found = run.before.find(datum.id);
-    if (!row.before) {
+    const bool is_left = found && found->exact == row.after->exact;
+    if (found && !is_left && (!row.before || found->exact != row.before->exact))
+        row.prepared = *found;
+    if (!row.before)
         row.kind = Kind::Appeared;
-    } else if (row.before->exact != row.after->exact) {
-        const bool is_left = found && found->exact == row.after->exact;
+    else if (row.before->exact != row.after->exact)
         row.kind = is_left ? Kind::Prepared : kind_of(datum, state, run, order);
-        if (!is_left && found && found->exact != row.before->exact)
-            row.prepared = *found;
-    }
+    else if (row.prepared)
+        row.kind = kind_of(datum, state, run, order);
     if (row.kind == Kind::To_Nearest && datum.score)
         row.score = datum.score(run);
     return row;

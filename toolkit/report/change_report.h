@@ -76,7 +76,7 @@ struct PX_Datum_Change {
     bool is_validated = false;
     bool is_default = false;
 
-    // Whether the value is another one now.
+    // Whether the run, or what was done ahead of it, has changed the value, be it there and back.
     bool is_changed() const { return before && after && kind != PX_Change_Kind::Kept; }
     // What takes hosts by surprise: the run has changed it without a change bit.
     bool is_silent() const { return is_changed() && !is_raised && kind != PX_Change_Kind::Prepared; }
@@ -107,8 +107,9 @@ public:
     const PX_Datum_Change* find(const PX_Datum_Id& datum) const&& = delete;
 
     // What ended the run early, as a plain PX_Exception of the code, the texts and the trace; nothing for a
-    // run that came to its end. What it did not reach is kept, and the run has not marked it as validated.
-    // The datum that it failed at may have another value without its bit.
+    // run that came to its end. What it did not reach is not marked as validated; it has another value only
+    // where it came along with another datum or was prepared. The datum that it failed at may have another
+    // value without its bit.
     const std::optional<PX_Exception>& get_failure() const& { return m_failure; }
     const std::optional<PX_Exception>& get_failure() const&& = delete;
 

@@ -46,7 +46,7 @@ public:
         const bool mode_is_validated = of(Ability::RCM_Res_Color_Mem).is_validated();
         px_check_names(m_modes, L"", L"colour mode",
                        px_repeating(m_found, px_bits_if(mode_is_validated,
-                                                        px_change_bit(Datum::RCM_Cfg_Res_Color_Mem))));
+                                                        px_rcm_change_bit(Datum::RCM_Cfg_Res_Color_Mem))));
         px_check_names(m_device.get_mem_area_list(), L"", L"memory area", px_passing_over(m_found));
         px_check_names(m_device.get_dithering_list(), L"", L"dithering method", px_passing_over(m_found));
         check_modes();
@@ -74,11 +74,11 @@ private:
             px_for_each_there(m_modes, [&](const PX_ResColorMem& mode) {
                 if (mode.get_color_system() == PX_Color_System::Color_System_Undefined)
                     m_found.repeats(px_named(L"colour mode", mode), Fault::Color_System_Undefined,
-                                    px_change_bit(Datum::RCM_Cfg_Res_Color_Mem));
+                                    px_rcm_change_bit(Datum::RCM_Cfg_Res_Color_Mem));
             });
         if (is_validated && !m_mode_is_sure)
             m_found.repeats(L"colour mode", Fault::Default_Not_Written,
-                            px_change_bit(Datum::RCM_Cfg_Res_Color_Mem));
+                            px_rcm_change_bit(Datum::RCM_Cfg_Res_Color_Mem));
         if (!m_mode_is_sure)
             return;
         const wchar_t* const name = m_device.get_default_res_color_mem();
@@ -106,7 +106,7 @@ private:
             m_found.throws(L"default resolution", Fault::Not_Ensured, nothing_there, L"rcm");
         if (m_resolution_is_validated && !m_resolution_has_default)
             m_found.repeats(L"resolution", Fault::Default_Not_Written,
-                            px_change_bit(Datum::RCM_Cfg_Resolution));
+                            px_rcm_change_bit(Datum::RCM_Cfg_Resolution));
         const auto require = [&](bool is_needed, bool is_sure, const wchar_t* object, const wchar_t* detail) {
             if (is_needed && !is_sure)
                 m_found.throws(object, Fault::Not_Ensured, nothing_there, detail);
@@ -124,7 +124,7 @@ private:
         const auto resolutions = mode.get_resolution_list();
         px_check_names(resolutions, way, L"resolution",
                        px_repeating(m_found, px_bits_if(m_resolution_is_validated,
-                                                        px_change_bit(Datum::RCM_Cfg_Resolution))));
+                                                        px_rcm_change_bit(Datum::RCM_Cfg_Resolution))));
         check_resolutions_to_take(mode, way);
         const wchar_t* const name = mode.get_default_resolution();
         const auto preset = mode.get_resolution(name);
@@ -170,7 +170,7 @@ private:
     void check_resolution(const PX_Resolution& resolution, const std::wstring& way, bool is_default) const {
         if (m_resolution_is_validated)
             px_check_measure(has_nan(resolution), has_measures(resolution), way, L"resolution", is_default,
-                             px_change_bit(Datum::RCM_Cfg_Resolution), m_found);
+                             px_rcm_change_bit(Datum::RCM_Cfg_Resolution), m_found);
         const auto method = dithering_of(resolution);
         const std::wstring dithering = px_in(way, px_named(L"dithering", resolution.get_dithering_name()));
         if (m_dithers && !method)
@@ -181,7 +181,8 @@ private:
             method || !m_dithers ||
             of(Ability::RCM_Resolution).is_validated_without(of(Ability::RCM_HardSoftNo_Dithering));
         if (m_resolution_is_validated && needs_method() && !px_is_there(method) && ends)
-            m_found.repeats(dithering, px_fault_of_name(method), px_change_bit(Datum::RCM_Cfg_Resolution));
+            m_found.repeats(dithering, px_fault_of_name(method),
+                            px_rcm_change_bit(Datum::RCM_Cfg_Resolution));
         if (!m_counts_memory)
             return;
         px_for_each_there(resolution.get_mem_area_name_list(), [&](const PX_Caps_Name_List_Object& name) {
@@ -189,7 +190,7 @@ private:
                 m_found.passes_over(px_in(way, px_named(L"memory area", name)), Fault::Names_Nothing);
         });
         if (!px_is_memory_of_an_area(m_device, resolution, 0))
-            m_found.repeats(way, Fault::Memory_Default, px_change_bit(Datum::RCM_Cfg_Installed_Memory));
+            m_found.repeats(way, Fault::Memory_Default, px_rcm_change_bit(Datum::RCM_Cfg_Installed_Memory));
     }
 
     const PX_ResColorMem_Capabilities& m_device;

@@ -75,10 +75,11 @@ private:
         return method == PX_Media_Selection_Method::Media_Selection_By_Source;
     }
 
-    // Calls `visit(source)` for those that a run leaves. Without the ability every run writes the default.
+    // Calls `visit(source)` for those that a run leaves. What nobody can choose is the default in every run
+    // that looks at it.
     template <class Visit>
     void for_each_source(Visit visit) const {
-        if (!m_source_has_default || !of(Ability::Ability_Media_Source).is_none())
+        if (!m_source_has_default || m_source_is_validated)
             return px_for_each_there(m_device.get_media_source_list(), visit);
         const auto preset = m_device.get_media_source(m_device.get_default_media_source());
         if (px_is_there(preset))
@@ -86,7 +87,7 @@ private:
     }
     template <class Visit>
     void for_each_entry_of(const PX_Media_Source& source, Visit visit) const {
-        if (!m_entry_has_default || !of(Ability::Ability_Media_Source_Entry).is_none())
+        if (!m_entry_has_default || m_entry_is_validated)
             return px_for_each_there(source.get_source_entry_list(), visit);
         const auto preset = source.get_source_entry(source.get_default_source_entry());
         if (px_is_there(preset))
@@ -323,7 +324,7 @@ private:
         // The searches ask for no limit: the size is the nearest to itself.
         if (m_directly && m_is_limited &&
             !px_fits_directly(bounds, px_value(m_device.get_media_size_max()),
-                              m_device.get_media_roll_max_height()))
+                              [&] { return m_device.get_media_roll_max_height(); }))
             m_found.repeats(way, Fault::Beyond_Limit, Change::Size);
     }
 
@@ -350,9 +351,7 @@ private:
     bool can_be_left(const PX_Media_Size& size, const PX_Media_Description& description) const {
         if (!m_size_has_default || is_default(size))
             return true;
-        if (m_size_is_validated)
-            return !px_is_withdrawn(size) && is_offered(size) && !has_nan(description);
-        return !px_is_withdrawn(size) && !of(Ability::Ability_Media_Size).is_none();
+        return m_size_is_validated && !px_is_withdrawn(size) && is_offered(size) && !has_nan(description);
     }
 
     void check_names_of(const PX_Media_Source_Entry& entry, const std::wstring& way, bool is_roll) const {
@@ -381,7 +380,7 @@ private:
         const auto description = description_of(size);
         if (px_is_there(description) && !px_fits_source(px_value(description->get_media_bounds()),
                                                         px_value(m_device.get_media_size_max()), is_roll,
-                                                        m_device.get_media_roll_max_height()))
+                                                        [&] { return m_device.get_media_roll_max_height(); }))
             m_found.repeats(object, Fault::Beyond_Limit, Change::Size);
     }
 

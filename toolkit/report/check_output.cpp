@@ -295,6 +295,31 @@ private:
             else if (is_of_a_port())
                 m_found.throws(object, Fault::Type_Never_Valid, PX_IO_Code::No_Usable_Rate);
         }
+        if (!m_device.get_method_list())
+            return;
+        for (const auto& other : *m_device.get_method_list()) {
+            if (px_is_there(other) && other->get_type() != m_preset && other->get_type() != Type::Serial &&
+                method_of(other->get_type()) == other && is_left(other->get_type()))
+                check_defaults_of_other(*other);
+        }
+    }
+
+    // A default that is written without a look at the datum, while the type is the choice's.
+    void check_defaults_of_other(const PX_IO_Method& method) const {
+        const Type::Enum type = method.get_type();
+        const auto is_written = [&](Ability::Enum gate) {
+            return has(gate) && !px_ability_of(m_device, gates, gate).is_required();
+        };
+        if (is_written(Ability::IO_Protocol) && has(method, Method_Ability::Method_Default_Protocol))
+            m_found.throws(px_in(way_to(type), L"default protocol"), Fault::Type_Never_Valid,
+                           PX_IO_Code::No_Usable_Protocol);
+        if (!is_written(Ability::IO_Baud_Rate) || !has(method, Method_Ability::Method_Default_Baud_Rate))
+            return;
+        const std::wstring object = px_in(way_to(type), L"default baud rate");
+        if (m_has_ports && (type == Type::Parallel || type == Type::Network))
+            m_found.throws(object, Fault::Type_Never_Valid, PX_IO_Code::No_Usable_Rate);
+        else
+            m_found.throws(object, Fault::Type_Never_Valid, PX_Code::No_Memory, L"workratelist");
     }
 
     struct Timeout {

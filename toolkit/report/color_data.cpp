@@ -74,7 +74,7 @@ using Domain = PX_Report_Domain<PX_Domain_Mask::Res_Color_Mem,
 
 template <auto source, Ability::Enum ability, Cfg::Enum flag>
 PX_Report_Datum row(const char* name, PX_Repair repair = PX_Repair::To_Default) {
-    return Domain::row<source, ability, flag>(name, px_change_bit(flag), repair);
+    return Domain::row<source, ability, flag>(name, px_rcm_change_bit(flag), repair);
 }
 
 template <class Score>

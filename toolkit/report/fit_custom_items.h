@@ -8,6 +8,9 @@
 // default, and is marked so. The values of the others are kept and still to be validated; of several items of
 // one name the first counts.
 //
-// A missing root, validator or custom domain is MVNK_Error 1103, and so is a device without a list of
-// settings; no memory is std::bad_alloc, or 1101. After a failure the items may be only a part of them.
+// A missing root or validator, or a choice without custom data, is MVNK_Error 1103. What putting them to
+// their defaults throws comes on as a plain PX_Exception: 1103 for a device without a list of settings and
+// for a setting without a default, 701 for a default of no known type. No memory is std::bad_alloc, or 1101.
+// After a failure the items have the values and marks that they had; only where there is no memory for that
+// either, they may be gone.
 void px_fit_custom_items(const PX_Plotter_Definition& plotter);

@@ -92,6 +92,6 @@ void px_print_changes(std::ostream& out, const PX_Change_Report& report) {
         out << "The run failed with error " << failure->m_code;
         if (*failure->m_detail)
             out << ", " << px_quoted(failure->m_detail);
-        out << ": what it did not reach is as it was.\n";
+        out << ": what it did not reach is not validated.\n";
     }
 }

@@ -3,9 +3,7 @@
 #include <algorithm>
 #include <optional>
 #include <set>
-#include <span>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "examples/common/made.h"

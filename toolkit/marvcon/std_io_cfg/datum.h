@@ -60,8 +60,8 @@ inline bool px_has(const PX_IO_Method& method, PX_IO_Method_Ability_Flags::Enum 
     return method.get_one_ability(ability) != PX_Ability_Value::Ability_None;
 }
 
-// Whether a side, a method or a port, offers the protocol, the rate, all of the handshakes. A side that is
-// missing offers nothing.
+// The protocols of a side, a method or a port, for who asks for many names; null where the side or its list
+// is missing.
 using PX_Protocols = PX_Smart_Pointer<PX_Named_Object_List<PX_Protocol>>;
 template <class Side>
 PX_Protocols px_protocols_of(const PX_Smart_Pointer<Side>& side) {
@@ -70,6 +70,8 @@ PX_Protocols px_protocols_of(const PX_Smart_Pointer<Side>& side) {
 inline bool px_has_protocol(const PX_Protocols& protocols, const wchar_t* name) {
     return name && protocols && px_is_there(protocols->find(name));
 }
+
+// Whether a side offers the protocol, the rate, all of the handshakes. A side that is missing offers nothing.
 template <class Side>
 bool px_offers_protocol(const PX_Smart_Pointer<Side>& side, const wchar_t* name) {
     return px_has_protocol(px_protocols_of(side), name);

@@ -136,6 +136,8 @@ struct PX_IO_Code {
     static constexpr unsigned int No_Methods = 210;
     static constexpr unsigned int No_Usable_Rate = 215;
     static constexpr unsigned int No_Usable_Protocol = 217;
+    // Told to the error handler; the run goes on.
+    static constexpr unsigned int Port_Not_Usable = 241;
 };
 
 class PX_EXPORT PX_Plotter_IO_Abilities : public PX_Flag_Set<PX_Abilities, PX_Plotter_IO_Ability_Flags> {};

@@ -19,8 +19,6 @@ using Type = PX_IO_Type;
 
 namespace {
 
-constexpr unsigned int port_not_usable = 241;
-
 // A method need not say that it can do without RTS and DTR.
 constexpr long always_allowed = PX_Handshake::Handshake_Rts_Disable | PX_Handshake::Handshake_Dtr_Disable;
 
@@ -147,7 +145,7 @@ void PX_Std_Plotter_IO_Validator::validate_portname_and_type(Strategy::Enum stra
     if (!to_file && !Port_Rule(datum, *m_plotter, function).holds()) {
         if (const auto handler = m_plotter->get_error_handler())
             datum.call([&] {
-                handler->error(GetMVNErrResHandle(), port_not_usable, function, nullptr,
+                handler->error(GetMVNErrResHandle(), PX_IO_Code::Port_Not_Usable, function, nullptr,
                                PX_IO_Domain::file_tag);
             });
         const Type::Enum type = datum.configuration->get_type();

@@ -107,6 +107,28 @@ struct PX_Media_Change {
     };
 };
 
+// Numbers that the domain's failures carry; each is that of its text.
+struct PX_Media_Code {
+    static constexpr unsigned int Default_Type = 303;
+    static constexpr unsigned int Default_Source = 304;
+    static constexpr unsigned int No_Sources = 305;
+    static constexpr unsigned int Source_Missing = 308;
+    static constexpr unsigned int Default_Size_Of_Source = 309;
+    static constexpr unsigned int Default_Size = 310;
+    static constexpr unsigned int Default_Destination = 311;
+    static constexpr unsigned int No_Destinations = 312;
+    static constexpr unsigned int Default_Duplexing = 315;
+    static constexpr unsigned int Default_Dm_Scale = 316;
+    static constexpr unsigned int Default_Longplot_Reduction = 317;
+    static constexpr unsigned int No_Types = 318;
+    static constexpr unsigned int No_Settings = 319;
+    static constexpr unsigned int No_Sizes = 320;
+    static constexpr unsigned int Default_Selection_Method = 321;
+    static constexpr unsigned int No_Entries = 322;
+    static constexpr unsigned int Entry_Missing = 323;
+    static constexpr unsigned int Default_Entry = 324;
+};
+
 class PX_EXPORT PX_Media_Abilities : public PX_Flag_Set<PX_Abilities, PX_Media_Ability_Flags> {};
 class PX_EXPORT PX_Media_Caps_State : public PX_Flag_Set<PX_Boolean_Flags, PX_Media_User_Flags> {};
 class PX_EXPORT PX_Media_UI_Owner : public PX_Flag_Set<PX_UI_Ownership, PX_Media_UI_Owner_Flags> {};

@@ -4,28 +4,6 @@
 #include "toolkit/marvcon/std_media_cfg/flags.h"
 #include "toolkit/marvcon/std_plval/interface.h"
 
-// Numbers that the domain's failures carry; each is that of its text.
-struct PX_Media_Code {
-    static constexpr unsigned int Default_Type = 303;
-    static constexpr unsigned int Default_Source = 304;
-    static constexpr unsigned int No_Sources = 305;
-    static constexpr unsigned int Source_Missing = 308;
-    static constexpr unsigned int Default_Size_Of_Source = 309;
-    static constexpr unsigned int Default_Size = 310;
-    static constexpr unsigned int Default_Destination = 311;
-    static constexpr unsigned int No_Destinations = 312;
-    static constexpr unsigned int Default_Duplexing = 315;
-    static constexpr unsigned int Default_Dm_Scale = 316;
-    static constexpr unsigned int Default_Longplot_Reduction = 317;
-    static constexpr unsigned int No_Types = 318;
-    static constexpr unsigned int No_Settings = 319;
-    static constexpr unsigned int No_Sizes = 320;
-    static constexpr unsigned int Default_Selection_Method = 321;
-    static constexpr unsigned int No_Entries = 322;
-    static constexpr unsigned int Entry_Missing = 323;
-    static constexpr unsigned int Default_Entry = 324;
-};
-
 // A snapshot of what the chosen catalogue objects were like. Validators compare it with the catalogue, and
 // the nearest searches measure against it. Setters store as their namesakes of the catalogue do.
 class PX_EXPORT PX_Media_Settings {

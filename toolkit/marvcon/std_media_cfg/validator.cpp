@@ -119,7 +119,8 @@ bool is_offered_by_source(const PX_Media_Datum& datum) {
     const bool roll = source->get_media_feed() == PX_Media_Feed::Media_Feed_Roll &&
                       datum.is_above_none(Ability::Ability_Roll_Limit);
     return sheet_fits(datum, [&](const PX_Float_XY& sheet, const PX_Float_XY& largest) {
-        return px_fits_source(sheet, largest, roll, datum.capabilities->get_media_roll_max_height());
+        return px_fits_source(sheet, largest, roll,
+                              [&] { return datum.capabilities->get_media_roll_max_height(); });
     });
 }
 
@@ -130,7 +131,8 @@ bool is_offered_directly(const PX_Media_Datum& datum) {
     if (!px_is_there(sizes->find(datum.configuration->get_media_size())))
         return false;
     return sheet_fits(datum, [&](const PX_Float_XY& sheet, const PX_Float_XY& largest) {
-        return px_fits_directly(sheet, largest, datum.capabilities->get_media_roll_max_height());
+        return px_fits_directly(sheet, largest,
+                                [&] { return datum.capabilities->get_media_roll_max_height(); });
     });
 }
 

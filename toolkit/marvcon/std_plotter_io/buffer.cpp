@@ -22,8 +22,9 @@ PX_IO_Buffer::PX_IO_Buffer(PX_Smart_Pointer<PX_Error_Handler> handler)
     : PX_IO_Buffer(std::move(handler), usual_length) {
 }
 
-PX_IO_Buffer::PX_IO_Buffer(PX_Smart_Pointer<PX_Error_Handler> handler, long length) {
-    px_require_argument(handler, constructor, L"error_handler", file_tag);
+PX_IO_Buffer::PX_IO_Buffer(PX_Smart_Pointer<PX_Error_Handler> handler, long length)
+    : m_error_handler(std::move(handler)) {
+    px_require_argument(m_error_handler, constructor, L"error_handler", file_tag);
     allocate(permitted(length), constructor);
 }
 

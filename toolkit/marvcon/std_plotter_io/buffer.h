@@ -47,6 +47,8 @@ public:
 private:
     void allocate(long length, const wchar_t* function);
 
+    // Held as long as the buffer is.
+    PX_Smart_Pointer<PX_Error_Handler> m_error_handler;
     std::unique_ptr<char[]> m_chars;
     char* m_unsent_position = nullptr;
     char* m_fill_position = nullptr;

@@ -74,9 +74,15 @@ struct PX_ResColorMem_Config_Flags {
 };
 
 // The bit of a datum in the change word: what a run had to repair.
-constexpr long px_change_bit(PX_ResColorMem_Config_Flags::Enum datum) {
+constexpr long px_rcm_change_bit(PX_ResColorMem_Config_Flags::Enum datum) {
     return 1L << datum;
 }
+
+// Numbers that the domain's failures carry; each is that of its text.
+struct PX_RCM_Code {
+    static constexpr unsigned int Default_Mode = 401;
+    static constexpr unsigned int Default_Resolution = 403;
+};
 
 class PX_EXPORT PX_ResColorMem_Abilities : public PX_Flag_Set<PX_Abilities, PX_ResColorMem_Ability_Flags> {};
 class PX_EXPORT PX_ResColorMem_Caps_State : public PX_Flag_Set<PX_Boolean_Flags, PX_ResColorMem_User_Flags> {

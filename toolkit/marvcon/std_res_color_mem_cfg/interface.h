@@ -4,12 +4,6 @@
 #include "toolkit/marvcon/std_res_color_mem_cfg/catalogue_interface.h"
 #include "toolkit/marvcon/std_res_color_mem_cfg/prepared_lists.h"
 
-// Numbers that the domain's failures carry; each is that of its text.
-struct PX_RCM_Code {
-    static constexpr unsigned int Default_Mode = 401;
-    static constexpr unsigned int Default_Resolution = 403;
-};
-
 // A snapshot of what the chosen catalogue objects were like. Validators compare it with the catalogue, and
 // the nearest searches measure against it. Setters store as their namesakes of the catalogue do.
 class PX_EXPORT PX_ResColorMem_Settings {

@@ -56,7 +56,7 @@ void PX_Std_ResColorMem_Validator::validate_res_color_mem(Strategy::Enum strateg
     const auto had = px_rcm_snapshot(datum);
     const auto mode = px_configured_mode(datum);
     if (!px_is_there(mode) || !is_as_before(*had, *mode))
-        datum.repair(px_change_bit(Datum::RCM_Cfg_Res_Color_Mem),
+        datum.repair(px_rcm_change_bit(Datum::RCM_Cfg_Res_Color_Mem),
                      [&] { strategy ? set_res_color_mem_to_nearest() : set_res_color_mem_to_default(); });
     datum.settle(Datum::RCM_Cfg_Res_Color_Mem);
 }
@@ -68,7 +68,7 @@ void PX_Std_ResColorMem_Validator::validate_resolution(Strategy::Enum strategy) 
     const auto resolution = px_configured_resolution(datum, *mode);
     if (!px_is_there(resolution) || !is_as_before(*had, *resolution) ||
         !px_can_be_dithered(datum, *resolution))
-        datum.repair(px_change_bit(Datum::RCM_Cfg_Resolution),
+        datum.repair(px_rcm_change_bit(Datum::RCM_Cfg_Resolution),
                      [&] { strategy ? set_resolution_to_nearest() : set_resolution_to_default(); });
     datum.settle(Datum::RCM_Cfg_Resolution);
 }
@@ -86,7 +86,7 @@ void PX_Std_ResColorMem_Validator::validate_HardSoftNo_Dithering(Strategy::Enum 
         constexpr int needs_soft = PX_Renderers_Required::Renderer_Level_2;
         const auto replace_by = [&](Dithering::Enum dithering) {
             datum.configuration->set_hardsoftno_dithering(dithering);
-            datum.raise(px_change_bit(Datum::RCM_Cfg_HardSoftNo_Dithering));
+            datum.raise(px_rcm_change_bit(Datum::RCM_Cfg_HardSoftNo_Dithering));
         };
         if (datum.configuration->get_hardsoftno_dithering() != Dithering::Soft_Dithering) {
             if (level == needs_soft)
@@ -107,7 +107,7 @@ void PX_Std_ResColorMem_Validator::validate_installed_memory(Strategy::Enum /*st
         const auto resolution = required_resolution(datum, *mode);
         if (!px_is_memory_of_an_area(*datum.capabilities, *resolution,
                                      datum.configuration->get_installed_memory()))
-            datum.repair(px_change_bit(Datum::RCM_Cfg_Installed_Memory),
+            datum.repair(px_rcm_change_bit(Datum::RCM_Cfg_Installed_Memory),
                          [&] { set_installed_memory_to_default(); });
     }
     datum.settle(Datum::RCM_Cfg_Installed_Memory);
@@ -117,7 +117,7 @@ void PX_Std_ResColorMem_Validator::validate_RastColorVsResPref(Strategy::Enum st
     const PX_RCM_Datum datum(m_plotter, L"PX_Std_ResColorMem_Validator::validate_RastColorVsResPref");
     const long preference = datum.configuration->get_rast_color_vs_res_pref();
     if (preference < 0 || preference > 100)
-        datum.repair(px_change_bit(Datum::RCM_Cfg_Rast_Color_Vs_Res_Pref), [&] {
+        datum.repair(px_rcm_change_bit(Datum::RCM_Cfg_Rast_Color_Vs_Res_Pref), [&] {
             strategy ? set_RastColorVsResPref_to_nearest() : set_RastColorVsResPref_to_default();
         });
     datum.settle(Datum::RCM_Cfg_Rast_Color_Vs_Res_Pref);
@@ -129,7 +129,7 @@ void PX_Std_ResColorMem_Validator::validate_ISM_max_mem(Strategy::Enum /*strateg
     const PX_RCM_Datum datum(m_plotter, L"PX_Std_ResColorMem_Validator::validate_ISM_max_mem");
     if (datum.configuration->get_ISM_max_mem() < 0) {
         set_ISM_max_mem_to_default();
-        datum.raise(px_change_bit(Datum::RCM_Cfg_ISM_Max_Mem));
+        datum.raise(px_rcm_change_bit(Datum::RCM_Cfg_ISM_Max_Mem));
     }
     datum.settle(Datum::RCM_Cfg_ISM_Max_Mem);
 }
@@ -138,7 +138,7 @@ void PX_Std_ResColorMem_Validator::validate_OLE_max_mem(Strategy::Enum /*strateg
     const PX_RCM_Datum datum(m_plotter, L"PX_Std_ResColorMem_Validator::validate_OLE_max_mem");
     if (datum.configuration->get_OLE_max_mem() < 0) {
         set_OLE_max_mem_to_default();
-        datum.raise(px_change_bit(Datum::RCM_Cfg_OLE_Max_Mem));
+        datum.raise(px_rcm_change_bit(Datum::RCM_Cfg_OLE_Max_Mem));
     }
     datum.settle(Datum::RCM_Cfg_OLE_Max_Mem);
 }
@@ -147,7 +147,7 @@ void PX_Std_ResColorMem_Validator::validate_icm_method(Strategy::Enum /*strategy
     const PX_RCM_Datum datum(m_plotter, L"PX_Std_ResColorMem_Validator::validate_icm_method");
     if (datum.configuration->get_icm_method() < 1) {
         set_icm_method_to_default();
-        datum.raise(px_change_bit(Datum::RCM_Cfg_Icm_Method));
+        datum.raise(px_rcm_change_bit(Datum::RCM_Cfg_Icm_Method));
     }
     datum.settle(Datum::RCM_Cfg_Icm_Method);
 }
@@ -156,7 +156,7 @@ void PX_Std_ResColorMem_Validator::validate_icm_intent(Strategy::Enum /*strategy
     const PX_RCM_Datum datum(m_plotter, L"PX_Std_ResColorMem_Validator::validate_icm_intent");
     if (datum.configuration->get_icm_intent() < 1) {
         set_icm_intent_to_default();
-        datum.raise(px_change_bit(Datum::RCM_Cfg_Icm_Intent));
+        datum.raise(px_rcm_change_bit(Datum::RCM_Cfg_Icm_Intent));
     }
     datum.settle(Datum::RCM_Cfg_Icm_Intent);
 }
@@ -170,7 +170,7 @@ void PX_Std_ResColorMem_Validator::validate_dm_color(Strategy::Enum /*strategy*/
     const long chosen = configuration->get_dm_color();
     if (chosen != monochrome && chosen != color) {
         set_dm_color_to_default();
-        px_raise<PX_RCM_Domain>(*m_plotter, px_change_bit(Datum::RCM_Cfg_Dm_Color), function);
+        px_raise<PX_RCM_Domain>(*m_plotter, px_rcm_change_bit(Datum::RCM_Cfg_Dm_Color), function);
     }
     configuration->set_one_validated(true, Datum::RCM_Cfg_Dm_Color);
 }
@@ -180,7 +180,7 @@ void PX_Std_ResColorMem_Validator::validate_lines_overwrite(Strategy::Enum /*str
     const auto ability = datum.capabilities->get_one_ability(Ability::RCM_Lines_Overwrite);
     if (ability == PX_Ability_Value::Ability_None && !datum.configuration->get_lines_overwrite()) {
         datum.configuration->set_lines_overwrite(true);
-        datum.raise(px_change_bit(Datum::RCM_Cfg_Lines_Overwrite));
+        datum.raise(px_rcm_change_bit(Datum::RCM_Cfg_Lines_Overwrite));
     }
     datum.settle(Datum::RCM_Cfg_Lines_Overwrite);
 }

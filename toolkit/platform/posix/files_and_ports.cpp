@@ -1,4 +1,5 @@
 #include "toolkit/platform/posix/file_handles.h"
+#include "toolkit/platform/posix/last_error.h"
 #include "toolkit/platform/posix/posix_platform.h"
 #include "toolkit/platform/record_buffer.h"
 
@@ -17,9 +18,10 @@ void check_transfer(const void* bytes, DWORD size, const OVERLAPPED* overlapped)
 bool PX_Posix_Platform::map_port(const wchar_t* name, const char* device) {
     return m_last_error->attempt(name, [&] {
         const auto port = px_port_name(name ? name : L"");
-        if (port)
-            m_files->map(*port, device ? device : "");
-        return port.has_value();
+        if (!port)
+            px_fail(EINVAL);
+        m_files->map(*port, device ? device : "");
+        return true;
     });
 }
 

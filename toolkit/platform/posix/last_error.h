@@ -18,9 +18,10 @@ public:
     void copy_to(wchar_t* text, std::size_t size) const;
 
     // The result of the operation, or 0 for one that ended in an exception, whose reason is kept: of a
-    // PX_Failure with the name before it, of others as they tell it, and "No memory". The name may be null.
+    // PX_Failure with the name before it, of others as they tell it, and "No memory". The name may be null. A
+    // thread that is cancelled unwinds through it.
     template <class Operation>
-    auto attempt(const wchar_t* name, Operation operation) noexcept -> decltype(operation()) {
+    auto attempt(const wchar_t* name, Operation operation) -> decltype(operation()) {
         try {
             return operation();
         } catch (const PX_Failure& failure) {
@@ -33,7 +34,7 @@ public:
         return decltype(operation())();
     }
     template <class Operation>
-    auto attempt(Operation operation) noexcept -> decltype(operation()) {
+    auto attempt(Operation operation) -> decltype(operation()) {
         return attempt(nullptr, operation);
     }
 

@@ -8,7 +8,6 @@
 #include <iterator>
 #include <string>
 #include <system_error>
-#include <utility>
 #include <vector>
 
 #include "toolkit/platform/back_end.h"
@@ -107,7 +106,7 @@ const wchar_t* PX_Posix_Platform::last_error() const {
 HMODULE PX_Posix_Platform::LoadLibraryExW(const wchar_t* name, HANDLE, DWORD) {
     if (!name)
         return nullptr;
-    return m_last_error->attempt(name, [&]() -> HMODULE {
+    return m_last_error->attempt([&]() -> HMODULE {
         for (const fs::path& path : candidates(px_to_utf8(name))) {
             std::error_code none;
             if (!fs::is_regular_file(path, none))
@@ -175,6 +174,8 @@ int PX_Posix_Platform::_wfopen_s(std::FILE** stream, const wchar_t* name, const 
     m_last_error->attempt(name, [&] {
         *stream = std::fopen(px_to_utf8(name).c_str(), px_to_utf8(mode).c_str());
         error = *stream ? 0 : errno;
+        if (error)
+            px_fail(error);
     });
     return error;
 }

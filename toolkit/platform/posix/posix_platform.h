@@ -34,8 +34,9 @@ struct PX_Print_Server;
 // Printers: the queues of the machine's print server, which CUPS chooses; their jobs are raw. Every question
 // is bounded in time, except for looking up the name of a server: a second for a list, three for a printer or
 // the cancelling of a job, ten for a job to be made, for any 64 kB of it to be taken and for its end to be
-// confirmed. A server that was too late with a list is not asked for one again for five seconds. A queue that
-// wants a password refuses; from the first use of a printer on, libcups asks for none on that thread.
+// confirmed. A server that was too late with a list is not asked for local printers alone, as for who owns a
+// port, for a second. A queue that wants a password refuses; from the first use of a printer on, libcups asks
+// for none on that thread.
 class PX_EXPORT PX_Posix_Platform : public PX_Platform {
 public:
     // The descriptors stay the caller's.
@@ -146,7 +147,8 @@ private:
 
     std::shared_ptr<Printer> printer_of(HANDLE handle);
     PX_Print_Server print_server();
-    std::vector<PX_Print_Queue> print_queues();
+    // `is_kept` for what the process keeps, which no earlier silence answers.
+    std::vector<PX_Print_Queue> print_queues(bool is_kept);
 
     int m_answers_fd;
     int m_questions_fd;
@@ -155,6 +157,7 @@ private:
     std::mutex m_printers_lock;
     std::string m_print_host;
     int m_print_port = 0;
+    unsigned m_server_changes = 0;
     std::chrono::steady_clock::time_point m_no_list_before{};
     std::vector<std::shared_ptr<Printer>> m_printers;
 };

@@ -14,6 +14,7 @@
 
 #include "toolkit/platform/back_end.h"
 #include "toolkit/platform/posix/file_handles.h"
+#include "toolkit/platform/posix/last_error.h"
 #include "toolkit/platform/posix/port_names.h"
 #include "toolkit/platform/posix/posix_platform.h"
 #include "toolkit/platform/posix/print_server.h"
@@ -80,6 +81,7 @@ bool PX_Posix_Platform::use_print_server(const char* host, int port) {
         const std::lock_guard lock(m_printers_lock);
         m_print_host = host ? host : "";
         m_print_port = port;
+        ++m_server_changes;
         m_no_list_before = {};
         return true;
     });
@@ -99,20 +101,24 @@ PX_Print_Server PX_Posix_Platform::print_server() {
     return {m_print_host, m_print_port};
 }
 
-// Discovery asks for the printers once for every port: one that falls silent is waited for once.
-std::vector<PX_Print_Queue> PX_Posix_Platform::print_queues() {
-    constexpr std::chrono::seconds rest{5};
-    const PX_Print_Server server = print_server();
+// Discovery asks who owns each port, and then for all printers: a server that is silent to the first question
+// is not waited for at the further ports, and is asked once more for what the process keeps.
+std::vector<PX_Print_Queue> PX_Posix_Platform::print_queues(bool is_kept) {
+    constexpr std::chrono::seconds rest{1};
+    PX_Print_Server server;
+    unsigned server_changes = 0;
     {
         const std::lock_guard lock(m_printers_lock);
-        if (std::chrono::steady_clock::now() < m_no_list_before)
+        if (!is_kept && std::chrono::steady_clock::now() < m_no_list_before)
             throw PX_Print_Time_Out();
+        server = {m_print_host, m_print_port};
+        server_changes = m_server_changes;
     }
     try {
         return px_print_queues(server);
     } catch (const PX_Print_Time_Out&) {
         const std::lock_guard lock(m_printers_lock);
-        if (server.host == m_print_host && server.port == m_print_port)
+        if (server_changes == m_server_changes)
             m_no_list_before = std::chrono::steady_clock::now() + rest;
         throw;
     }
@@ -127,7 +133,7 @@ BOOL PX_Posix_Platform::EnumPrintersW(DWORD flags, wchar_t*, DWORD level, BYTE* 
         if (level != 2)
             throw PX_Print_Error("Printers are told at level 2 only.");
         const PX_Port_Devices ports = m_files->ports();
-        for (const PX_Print_Queue& queue : print_queues()) {
+        for (const PX_Print_Queue& queue : print_queues((flags & PRINTER_ENUM_CONNECTIONS) != 0)) {
             if (!(flags & (queue.is_remote ? PRINTER_ENUM_CONNECTIONS : PRINTER_ENUM_LOCAL)))
                 continue;
             PRINTER_INFO_2W& printer = printers.add({});
@@ -158,7 +164,7 @@ BOOL PX_Posix_Platform::EnumPrinterDriversW(wchar_t*, wchar_t*, DWORD level, BYT
         if (level != 3)
             throw PX_Print_Error("Printer drivers are told at level 3 only.");
         std::set<std::string> models;
-        for (const PX_Print_Queue& queue : print_queues())
+        for (const PX_Print_Queue& queue : print_queues(true))
             if (!queue.make_and_model.empty())
                 models.insert(queue.make_and_model);
         for (const std::string& model : models) {
@@ -190,7 +196,7 @@ HANDLE PX_Posix_Platform::ConnectToPrinterDlg(HWND, DWORD) {
         return nullptr;
     HANDLE printer = nullptr;
     m_last_error->attempt([&]() -> BOOL {
-        const std::vector<PX_Print_Queue> queues = print_queues();
+        const std::vector<PX_Print_Queue> queues = print_queues(true);
         std::string question;
         for (std::size_t number = 1; number <= queues.size(); ++number) {
             const PX_Print_Queue& queue = queues[number - 1];

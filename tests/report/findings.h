@@ -60,16 +60,20 @@ struct Faulty {
     std::size_t findings = 1;
 };
 
-inline void run(const Device& device, How how) {
-    const auto validator = device.validator();
-    if (how == How::All_To_Defaults)
-        return validator->set_all_to_defaults();
+inline void clear_validated(const Device& device) {
     const auto choice = device->get_plotter_configuration();
     choice->get_media_configuration()->set_validated(false);
     choice->get_phys_pen_configuration()->set_validated(false);
     choice->get_res_color_mem_configuration()->set_validated(false);
     choice->get_io_configuration()->set_validated(false);
     choice->get_custom_configuration()->set_validated(false);
+}
+
+inline void run(const Device& device, How how) {
+    const auto validator = device.validator();
+    if (how == How::All_To_Defaults)
+        return validator->set_all_to_defaults();
+    clear_validated(device);
     const auto policy = how == How::Reset ? PX_Validation_Policy::Reset_Conditional
                                           : PX_Validation_Policy::Validate_Conditional;
     validator->validate_all(how == How::Use_Nearest ? Strategy::Use_Nearest : Strategy::Use_Default, policy,

@@ -57,50 +57,6 @@ TEST(MediaCheck, WhatNoRunReachesIsNoFinding) {
              m.types()->find(L"film")->set_max_resolution(&no_end);
          }},
         {"default type without an end", [&](M& m) { m.types()->find(L"film")->set_max_resolution(&no_end); }},
-        {"sources beside the one that every run writes",
-         [](M& m) {
-             m.set_ability(Ability::Ability_Media_Source, 0);
-             m.tray()->set_source_entry_list(nullptr);
-             m.sources()->find(L"drawer")->set_default_source_entry(L"x");
-             m.limit({297, 420}, 419);
-             m.sources()->find(L"drawer")->get_source_entry(L"only")->set_default_media_size(L"x");
-         }},
-        {"entries beside those that every run writes",
-         [](M& m) {
-             m.set_ability(Ability::Ability_Media_Source_Entry, 0);
-             m.upper()->set_default_media_size(L"x");
-         }},
-        {"sizes beside those that every run writes",
-         [](M& m) {
-             for (const Ability::Enum fixed :
-                  {Ability::Ability_Media_Source, Ability::Ability_Media_Source_Entry,
-                   Ability::Ability_Media_Size})
-                 m.set_ability(fixed, 0);
-             const PX_Float_Rectangle line(5, 5, 5, 100);
-             m.a4_sheet()->set_printable_bounds(&line);
-         }},
-        {"sources beside the one that nobody can choose",
-         [](M& m) {
-             m.set_ability(Ability::Ability_Media_Source, 1);
-             m.tray()->set_source_entry_list(nullptr);
-             m.sources()->find(L"drawer")->set_default_source_entry(L"x");
-             m.limit({297, 420}, 419);
-             m.sources()->find(L"drawer")->get_source_entry(L"only")->set_default_media_size(L"x");
-         }},
-        {"entries beside those that nobody can choose",
-         [](M& m) {
-             m.set_ability(Ability::Ability_Media_Source_Entry, 1);
-             m.upper()->set_default_media_size(L"x");
-         }},
-        {"sizes beside those that nobody can choose",
-         [](M& m) {
-             for (const Ability::Enum fixed :
-                  {Ability::Ability_Media_Source, Ability::Ability_Media_Source_Entry,
-                   Ability::Ability_Media_Size})
-                 m.set_ability(fixed, 1);
-             const PX_Float_Rectangle line(5, 5, 5, 100);
-             m.a4_sheet()->set_printable_bounds(&line);
-         }},
         {"size of no source",
          [&](M& m) {
              m.only_by_source();
@@ -138,6 +94,37 @@ TEST(MediaCheck, WhatNoRunReachesIsNoFinding) {
     EXPECT_EQ(px_check_device(*either.get()),
               (Findings{{PX_Domain_Mask::Media, L"default size 'x'", Fault::Names_Nothing, Effect::Throws,
                          310, L"", 0}}));
+}
+
+// With either ability every run that looks at the datum writes its default.
+TEST(MediaCheck, WhatNobodyCanChooseHasNoFindingBesideItsDefault) {
+    for (const int ability : {0, 1}) {
+        const Sound<M> rows[] = {
+            {"sources",
+             [=](M& m) {
+                 m.set_ability(Ability::Ability_Media_Source, ability);
+                 m.tray()->set_source_entry_list(nullptr);
+                 m.sources()->find(L"drawer")->set_default_source_entry(L"x");
+                 m.limit({297, 420}, 419);
+                 m.sources()->find(L"drawer")->get_source_entry(L"only")->set_default_media_size(L"x");
+             }},
+            {"entries",
+             [=](M& m) {
+                 m.set_ability(Ability::Ability_Media_Source_Entry, ability);
+                 m.upper()->set_default_media_size(L"x");
+             }},
+            {"sizes",
+             [=](M& m) {
+                 for (const Ability::Enum gate :
+                      {Ability::Ability_Media_Source, Ability::Ability_Media_Source_Entry,
+                       Ability::Ability_Media_Size})
+                     m.set_ability(gate, ability);
+                 const PX_Float_Rectangle line(5, 5, 5, 100);
+                 m.a4_sheet()->set_printable_bounds(&line);
+             }},
+        };
+        expect_no_findings<M>(rows, [](const M& m) -> const Device& { return m; });
+    }
 }
 
 TEST(MediaCheck, EveryGateIsAsked) {

@@ -411,12 +411,7 @@ void strike_out(Findings& findings, const Device& device, Numbers& numbers) {
     const bool to_defaults = !up_to(numbers, 7);
     const auto validator = device.validator();
     for (int time = 1; time <= 3; ++time) {
-        const auto choice = device->get_plotter_configuration();
-        choice->get_media_configuration()->set_validated(false);
-        choice->get_phys_pen_configuration()->set_validated(false);
-        choice->get_res_color_mem_configuration()->set_validated(false);
-        choice->get_io_configuration()->set_validated(false);
-        choice->get_custom_configuration()->set_validated(false);
+        clear_validated(device);
         const auto thrown = thrown_by([&] {
             if (to_defaults)
                 validator->set_all_to_defaults();
